@@ -1,0 +1,142 @@
+#include "cli/HRFCommandLine.h"
+
+#include "cli/HRFConsole.h"
+#include "cli/HRFFileCommands.h"
+#include "cli/HRFInterruption.h"
+#include "kit/HRFUserDefaults.h"
+#include "tags/HRFMapManager.h"
+#include "tags/HRFTagProperties.h"
+
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Command = int (*)(const HRFCommandOptions &);
+
+/// The tags that `set` knows, with what they mean.
+std::string tagList()
+{
+    std::string list = "Tags:\n";
+    for (const HRFPropertyRow &row : HRFPropertyRows) {
+        if (!row.isTag || row.type == HRFPropertyType::Data)
+            continue;
+        const QString name = QString::fromLatin1(row.name.data(), qsizetype(row.name.size()));
+        const QString text = HRFMapManager::frameDescriptions().value(name);
+        list += (u"  "_s + name.leftJustified(22) + text + u'\n').toStdString();
+    }
+    return list;
+}
+
+void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
+{
+    app.add_option("-D", options.definitions, "Use this value of a setting for this run")
+        ->type_name("KEY=VALUE")
+        ->allow_extra_args(false);
+    app.add_option("--config", options.configFile, "Read the settings from this file")
+        ->type_name("FILE");
+    app.add_flag("--dry-run", options.isDryRun, "Print what would change, change nothing");
+    app.add_flag("--quiet", options.isQuiet, "Show no progress");
+    app.add_option("--on-error", options.onError, "What to do when a file cannot be written")
+        ->type_name("ask|fix|continue|cancel")
+        ->transform(CLI::Transformer(
+            std::map<std::string, HRFErrorAnswer>{{"ask", HRFErrorAnswer::Ask},
+                                                  {"fix", HRFErrorAnswer::Fix},
+                                                  {"continue", HRFErrorAnswer::Continue},
+                                                  {"cancel", HRFErrorAnswer::Cancel}}));
+    app.set_version_flag("--version", "lirra-cli " LIRRA_VERSION);
+}
+
+CLI::App *addCommand(CLI::App &app, HRFCommandOptions &options, Command &chosen, Command command,
+                     const std::string &name, const std::string &help)
+{
+    CLI::App *subcommand = app.add_subcommand(name, help);
+    subcommand->fallthrough();
+    subcommand->add_option("PATH", options.paths, "Audio files, and folders to walk")->required();
+    subcommand->callback([&chosen, command] { chosen = command; });
+    return subcommand;
+}
+
+void addCommands(CLI::App &app, HRFCommandOptions &options, Command &chosen)
+{
+    CLI::App *show = addCommand(app, options, chosen, &HRFShowFiles, "show",
+                                "Print the tags and audio properties of files");
+    show->add_flag("--json", options.printsJSON, "One JSON object per line");
+    show->add_flag("--frames", options.printsFrames, "The native fields too");
+
+    CLI::App *set = addCommand(app, options, chosen, &HRFSetTags, "set", "Set tags of files");
+    set->add_option("-t", options.assignments, "Set a tag; an empty value removes it")
+        ->type_name("KEY=VALUE")
+        ->allow_extra_args(false);
+    auto *artwork =
+        set->add_option("--artwork", options.artworkFile, "Set the picture")->type_name("FILE");
+    set->add_flag("--no-artwork", options.removesArtwork, "Remove the pictures")->excludes(artwork);
+    set->footer([] { return tagList(); });
+
+    addCommand(app, options, chosen, &HRFStripTags, "strip", "Remove every tag of files");
+}
+
+/// What is wrong with a value for a setting; empty when nothing is.
+QString problemWithSetting(const QString &key, const QString &value)
+{
+    const HRFUserDefaults &defaults = HRFUserDefaults::standard();
+    if (!defaults.hasDefaultForKey(key))
+        return u"there is no setting “%1”"_s.arg(key);
+    QStringList allowed;
+    bool isNumber = false;
+    if (key == u"lirra.tagging.ID3v2Version")
+        allowed = {u"31"_s, u"316"_s, u"41"_s, u"416"_s, u"48"_s};
+    else if (defaults.valueForKey(key).typeId() == QMetaType::Bool)
+        allowed = {u"true"_s, u"false"_s, u"yes"_s, u"no"_s, u"1"_s, u"0"_s};
+    else if (static_cast<void>(value.toInt(&isNumber)); !isNumber)
+        return u"“%1” is not a whole number"_s.arg(value);
+    if (allowed.isEmpty() || allowed.contains(value.toLower()))
+        return {};
+    return u"“%1” is none of %2"_s.arg(value, allowed.join(u", "));
+}
+
+/// Takes the definitions as settings of this process; answers what is wrong with one of them.
+QString applySettings(const HRFCommandOptions &options)
+{
+    HRFUserDefaults &defaults = HRFUserDefaults::standard();
+    if (!options.configFile.empty())
+        defaults.setFilePath(QString::fromStdString(options.configFile));
+    for (const std::string &definition : options.definitions) {
+        const QString text = QString::fromStdString(definition);
+        const qsizetype equals = text.indexOf(u'=');
+        if (equals < 1)
+            return u"-D %1: expected KEY=VALUE"_s.arg(text);
+        const QString key = text.left(equals);
+        const QString value = text.mid(equals + 1);
+        if (const QString problem = problemWithSetting(key, value); !problem.isEmpty())
+            return u"-D %1: %2"_s.arg(text, problem);
+        defaults.setOverride(value, key);
+    }
+    return {};
+}
+
+} // namespace
+
+int HRFRunCommandLine(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    HRFCommandOptions options;
+    Command chosen = nullptr;
+    CLI::App app("Shows and edits the tags of audio files.", "lirra-cli");
+    app.require_subcommand(1);
+    addGlobalOptions(app, options);
+    addCommands(app, options, chosen);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return app.exit(error) == 0 ? HRFExitStatus::done : HRFExitStatus::wrongUsage;
+    }
+    if (const QString problem = applySettings(options); !problem.isEmpty()) {
+        HRFConsole(options.isQuiet).report(problem);
+        return HRFExitStatus::wrongUsage;
+    }
+    HRFInterruption::handleSignals();
+    return chosen(options);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tags/HRFTagKey.h"
+
+#include <QVariant>
+
+#include <string>
+#include <vector>
+
+/// What to do when a file cannot be written.
+enum class HRFErrorAnswer { Ask, Fix, Continue, Cancel };
+
+/// The command line, read but not yet checked against the world.
+struct HRFCommandOptions
+{
+    std::vector<std::string> definitions; ///< -D KEY=VALUE
+    std::string configFile;
+    bool isDryRun = false;
+    bool isQuiet = false;
+    HRFErrorAnswer onError = HRFErrorAnswer::Ask;
+
+    bool printsJSON = false;
+    bool printsFrames = false;
+    std::vector<std::string> assignments; ///< -t KEY=VALUE
+    std::string artworkFile;
+    bool removesArtwork = false;
+    std::vector<std::string> paths;
+};
+
+/// One tag to set, or to remove when the value is invalid.
+struct HRFTagChange
+{
+    HRFTagKey key;
+    QVariant value;
+};

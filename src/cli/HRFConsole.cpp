@@ -1,0 +1,87 @@
+#include "cli/HRFConsole.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <iostream>
+#include <string>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+HRFConsole::HRFConsole(bool isQuiet) : m_showsProgress(!isQuiet && ::isatty(STDERR_FILENO) == 1) { }
+
+void HRFConsole::print(const QByteArray &text)
+{
+    if (m_hasOutputFailed)
+        return;
+    clearProgress();
+    if (std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout)
+        == std::size_t(text.size()))
+        return;
+    m_hasOutputFailed = true;
+    if (errno != EPIPE)
+        report(u"Standard output cannot be written"_s);
+}
+
+void HRFConsole::report(const QString &text)
+{
+    clearProgress();
+    std::fflush(stdout);
+    const QByteArray line = (u"lirra-cli: "_s + printable(text)).toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
+}
+
+void HRFConsole::showProgress(std::size_t finished, std::size_t total)
+{
+    constexpr std::size_t worthShowing = 2;
+    if (!m_showsProgress || total < worthShowing)
+        return;
+    std::fprintf(stderr, "\r%zu of %zu files", finished, total);
+    m_isProgressShown = true;
+}
+
+void HRFConsole::clearProgress()
+{
+    constexpr const char *eraseLine = "\r\x1B[K";
+    if (m_isProgressShown)
+        std::fputs(eraseLine, stderr);
+    m_isProgressShown = false;
+}
+
+void HRFConsole::finish()
+{
+    clearProgress();
+    if (!m_hasOutputFailed && std::fflush(stdout) != 0) {
+        m_hasOutputFailed = true;
+        if (errno != EPIPE)
+            report(u"Standard output cannot be written"_s);
+    }
+}
+
+bool HRFConsole::isInteractive() const
+{
+    return ::isatty(STDIN_FILENO) == 1 && ::isatty(STDERR_FILENO) == 1;
+}
+
+QString HRFConsole::ask(const QString &question)
+{
+    clearProgress();
+    const QByteArray text = printable(question).toUtf8();
+    std::fwrite(text.constData(), 1, std::size_t(text.size()), stderr);
+    std::string line;
+    std::getline(std::cin, line);
+    return QString::fromStdString(line).trimmed().toLower();
+}
+
+QString HRFConsole::printable(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar character : text) {
+        if (character.category() == QChar::Other_Control && character != u'\t')
+            result += u"\\x%1"_s.arg(character.unicode(), 2, 16, QChar(u'0'));
+        else
+            result += character;
+    }
+    return result;
+}

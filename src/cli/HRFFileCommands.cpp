@@ -1,0 +1,96 @@
+#include "cli/HRFFileCommands.h"
+
+#include "cli/HRFCommandLine.h"
+#include "cli/HRFFileReport.h"
+#include "cli/HRFFileRun.h"
+#include "cli/HRFTagAssignment.h"
+#include "cli/HRFValueText.h"
+#include "tags/HRFTagEngine.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What setting a tag would do to a file, or nothing when it holds the value already.
+QString describeChange(const HRFTagEngine &engine, const HRFTagChange &change)
+{
+    const QVariant old = engine.valueForKey(change.key);
+    if (old == change.value || (HRFTagValue::isNothing(old) && !change.value.isValid()))
+        return {};
+    const auto shown = [&](const QVariant &value) {
+        if (HRFTagValue::isNothing(value))
+            return u"nothing"_s;
+        if (value.typeId() == QMetaType::QByteArray)
+            return u"%1 bytes"_s.arg(value.toByteArray().size());
+        return u"“%1”"_s.arg(HRFConsole::printable(HRFValueText(value)));
+    };
+    return u"  %1: %2 -> %3\n"_s.arg(HRFTagProperties::propertyNames().at(qsizetype(change.key)),
+                                     shown(old), shown(change.value));
+}
+
+QByteArray describe(const HRFTagEngine &engine, const QString &changes)
+{
+    if (changes.isEmpty())
+        return {};
+    return (HRFConsole::printable(engine.fileURL().displayPath()) + u'\n' + changes).toUtf8();
+}
+
+} // namespace
+
+int HRFShowFiles(const HRFCommandOptions &options)
+{
+    HRFFileReport report(options.printsFrames);
+    HRFFileRun run(options);
+    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
+        const auto engine = HRFTagEngine::initWithURL(file, true);
+        if (!engine)
+            return std::unexpected(engine.error());
+        run.console().print(options.printsJSON ? report.json(**engine) : report.text(**engine));
+        return {};
+    });
+}
+
+int HRFSetTags(const HRFCommandOptions &options)
+{
+    const auto changes = HRFTagChangesFromOptions(options);
+    HRFFileRun run(options);
+    if (!changes) {
+        run.console().report(changes.error());
+        return HRFExitStatus::wrongUsage;
+    }
+    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
+        const auto engine = HRFTagEngine::initWithURL(file);
+        if (!engine)
+            return std::unexpected(engine.error());
+        QString described;
+        for (const HRFTagChange &change : *changes) {
+            if (options.isDryRun)
+                described += describeChange(**engine, change);
+            else
+                (*engine)->setValueForKey(change.value, change.key);
+        }
+        if (!options.isDryRun)
+            return (*engine)->updateFileWithError();
+        run.console().print(describe(**engine, described));
+        return {};
+    });
+}
+
+int HRFStripTags(const HRFCommandOptions &options)
+{
+    HRFFileRun run(options);
+    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
+        const auto engine = HRFTagEngine::initWithURL(file);
+        if (!engine)
+            return std::unexpected(engine.error());
+        if (!options.isDryRun) {
+            if (auto stripped = (*engine)->stripTags(); !stripped)
+                return stripped;
+            return (*engine)->updateFileWithError();
+        }
+        const QString version = (*engine)->tagVersion().value_or(QString());
+        run.console().print(
+            describe(**engine, version.isEmpty() ? QString() : u"  removes %1\n"_s.arg(version)));
+        return {};
+    });
+}

@@ -1,0 +1,156 @@
+#include "cli/HRFTagAssignment.h"
+
+#include "kit/HRFFileReference.h"
+#include "kit/HRFISO8601DateFormatter.h"
+#include "kit/HRFImageType.h"
+#include "tags/HRFTagProperties.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using ParsedValue = std::expected<QVariant, QString>;
+
+/// How many single-character edits lead from one text to the other (Levenshtein).
+qsizetype editDistance(const QString &from, const QString &to)
+{
+    std::vector<qsizetype> row(std::size_t(to.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 1; i <= from.size(); ++i) {
+        qsizetype diagonal = std::exchange(row[0], i);
+        for (qsizetype j = 1; j <= to.size(); ++j) {
+            auto &cell = row[std::size_t(j)];
+            const qsizetype replaced = diagonal + (from[i - 1] == to[j - 1] ? 0 : 1);
+            diagonal = cell;
+            cell = std::min({replaced, cell + 1, row[std::size_t(j) - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+QString nearestKey(const QString &name)
+{
+    QString nearest;
+    qsizetype smallest = std::numeric_limits<qsizetype>::max();
+    for (const HRFPropertyRow &row : HRFPropertyRows) {
+        const QString candidate = QString::fromLatin1(row.name.data(), qsizetype(row.name.size()));
+        const qsizetype distance = editDistance(name.toLower(), candidate.toLower());
+        if (row.isTag && distance < smallest) {
+            smallest = distance;
+            nearest = candidate;
+        }
+    }
+    return nearest;
+}
+
+/// Numbers are stored in 32 bits.
+ParsedValue parseNumber(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.trimmed().toInt(&isNumber);
+    if (!isNumber || number < 0)
+        return std::unexpected(u"“%1” is not a whole number"_s.arg(text));
+    return QVariant(qlonglong(number));
+}
+
+ParsedValue parseDate(const QString &text)
+{
+    const auto date = HRFISO8601DateFormatter::shared().dateFromString(text.trimmed());
+    if (!date)
+        return std::unexpected(
+            u"“%1” is not a date such as 2004, 2004-05-06 or 2004-05-06T07:08:09Z"_s.arg(text));
+    return QVariant(*date);
+}
+
+ParsedValue parseBoolean(const QString &text)
+{
+    const QString word = text.trimmed().toLower();
+    if (word == u"true" || word == u"yes" || word == u"1")
+        return QVariant(true);
+    if (word == u"false" || word == u"no" || word == u"0")
+        return QVariant(false);
+    return std::unexpected(u"“%1” is neither true nor false"_s.arg(text));
+}
+
+ParsedValue parseValue(const QString &text, HRFPropertyType type)
+{
+    switch (type) {
+    case HRFPropertyType::Number:
+        return parseNumber(text);
+    case HRFPropertyType::Date:
+        return parseDate(text);
+    case HRFPropertyType::Boolean:
+        return parseBoolean(text);
+    default:
+        return QVariant(text);
+    }
+}
+
+std::expected<HRFTagChange, QString> parseAssignment(const std::string &assignment)
+{
+    const QString whole = QString::fromStdString(assignment);
+    const qsizetype equals = whole.indexOf(u'=');
+    if (equals < 1)
+        return std::unexpected(u"-t %1: expected KEY=VALUE"_s.arg(whole));
+    const QString name = whole.left(equals);
+    const auto key = HRFTagKeyForName(name.toStdString());
+    if (!key || !HRFRowForKey(*key).isTag)
+        return std::unexpected(u"-t %1: there is no tag “%2”; did you mean “%3”?"_s.arg(
+            whole, name, nearestKey(name)));
+    if (*key == HRFTagKey::artwork)
+        return std::unexpected(u"-t %1: use --artwork FILE or --no-artwork"_s.arg(whole));
+    const QString text = whole.mid(equals + 1);
+    if (text.isEmpty())
+        return HRFTagChange{*key, {}};
+    const ParsedValue value = parseValue(text, HRFRowForKey(*key).type);
+    if (!value)
+        return std::unexpected(u"-t %1: %2"_s.arg(whole, value.error()));
+    return HRFTagChange{*key, *value};
+}
+
+std::expected<QByteArray, QString> readArtwork(const std::string &path)
+{
+    const auto reference = HRFFileReference::fromNativePath(QByteArray::fromStdString(path));
+    const QString name = reference.displayPath();
+    std::unique_ptr<std::FILE, int (*)(std::FILE *)> handle(std::fopen(path.c_str(), "rb"),
+                                                            &std::fclose);
+    QFile file;
+    if (!handle || !file.open(handle.get(), QIODevice::ReadOnly))
+        return std::unexpected(
+            u"--artwork %1: %2"_s.arg(name, HRFError::fromErrno(errno).description));
+    QByteArray data = file.readAll();
+    if (!bitmapImageType(data) || !bitmapImageSize(data))
+        return std::unexpected(u"--artwork %1: The file is no image"_s.arg(name));
+    return data;
+}
+
+} // namespace
+
+std::expected<std::vector<HRFTagChange>, QString>
+HRFTagChangesFromOptions(const HRFCommandOptions &options)
+{
+    std::vector<HRFTagChange> changes;
+    for (const std::string &assignment : options.assignments) {
+        auto change = parseAssignment(assignment);
+        if (!change)
+            return std::unexpected(change.error());
+        changes.push_back(std::move(*change));
+    }
+    if (options.removesArtwork)
+        changes.push_back({HRFTagKey::artwork, {}});
+    if (!options.artworkFile.empty()) {
+        auto artwork = readArtwork(options.artworkFile);
+        if (!artwork)
+            return std::unexpected(artwork.error());
+        changes.push_back({HRFTagKey::artwork, *artwork});
+    }
+    if (changes.empty())
+        return std::unexpected(u"Nothing to set: give -t KEY=VALUE, --artwork or --no-artwork"_s);
+    return changes;
+}

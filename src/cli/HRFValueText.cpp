@@ -1,0 +1,34 @@
+#include "cli/HRFValueText.h"
+
+#include "kit/HRFISO8601DateFormatter.h"
+
+using namespace Qt::StringLiterals;
+
+QString HRFValueText(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QDateTime)
+        return HRFISO8601DateFormatter::shared().stringFromDate(value.toDateTime());
+    return value.toString();
+}
+
+QString HRFShownText(const QVariant &value, HRFTagKey key)
+{
+    constexpr int secondsPerMinute = 60;
+    switch (key) {
+    case HRFTagKey::duration: {
+        const qlonglong seconds = value.toLongLong();
+        return u"%1:%2"_s.arg(seconds / secondsPerMinute)
+            .arg(seconds % secondsPerMinute, 2, 10, QChar(u'0'));
+    }
+    case HRFTagKey::bitRate:
+        return value.toString() + u" kbit/s"_s;
+    case HRFTagKey::sampleRate:
+        return value.toString() + u" Hz"_s;
+    case HRFTagKey::bitDepth:
+        return value.toString() + u" bits"_s;
+    case HRFTagKey::tagSize:
+        return value.toString() + u" bytes"_s;
+    default:
+        return HRFValueText(value);
+    }
+}

@@ -1,0 +1,92 @@
+#include "tags/APEUnionMetaData.h"
+
+#include "kit/HRFAssert.h"
+#include "tags/TagLibText.h"
+
+#include <taglib/apetag.h>
+
+using namespace TagLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Whether the property is text in an APE tag. Pictures are left to the ID3v2 tag.
+bool isAPEText(HRFTagKey key)
+{
+    return HRFTagEngine::APEFrameForKey(key) && key != HRFTagKey::artwork;
+}
+
+} // namespace
+
+HRFText APEUnionMetaData::stringForAPETag(const char *tagName) const
+{
+    HRFRequire(tagName, "tagName");
+    const Lock guard = lock();
+    const APE::Tag *tag = APETag();
+    if (!tag)
+        return {};
+    const auto found = tag->itemListMap().find(String(tagName).upper());
+    if (found == tag->itemListMap().end())
+        return {};
+    return TagLibText::toQString(found->second.values().toString(", "));
+}
+
+void APEUnionMetaData::setStringForAPETag(const HRFText &value, const char *tagName)
+{
+    HRFRequire(tagName, "tagName");
+    if (!value || value->isEmpty())
+        return removeValueForAPETag(tagName);
+    const Lock guard = lock();
+    if (APE::Tag *tag = APETag())
+        tag->addValue(String(tagName), TagLibText::toTagString(*value), true);
+}
+
+void APEUnionMetaData::removeValueForAPETag(const char *tagName)
+{
+    HRFRequire(tagName, "tagName");
+    const Lock guard = lock();
+    if (APE::Tag *tag = APETag())
+        tag->removeItem(String(tagName));
+}
+
+HRFText APEUnionMetaData::stringForAPEKey(HRFTagKey key) const
+{
+    return stringForAPETag(APEFrameForKey(key));
+}
+
+void APEUnionMetaData::setStringForAPEKey(const HRFText &value, HRFTagKey key)
+{
+    setStringForAPETag(value, APEFrameForKey(key));
+}
+
+void APEUnionMetaData::removeValueForAPEKey(HRFTagKey key)
+{
+    removeValueForAPETag(APEFrameForKey(key));
+}
+
+HRFNumber APEUnionMetaData::numberForAPEKey(HRFTagKey key) const
+{
+    return numberForString(stringForAPEKey(key));
+}
+
+void APEUnionMetaData::setNumberForAPEKey(const HRFNumber &value, HRFTagKey key)
+{
+    setStringForAPEKey(stringForNumber(value), key);
+}
+
+QVariant APEUnionMetaData::secondValueForKey(HRFTagKey key) const
+{
+    return isAPEText(key) ? valueFromText(stringForAPEKey(key), HRFRowForKey(key).type)
+                          : QVariant();
+}
+
+void APEUnionMetaData::setSecondValueForKey(const QVariant &value, HRFTagKey key)
+{
+    if (isAPEText(key))
+        setStringForAPEKey(textFromValue(value, HRFRowForKey(key).type), key);
+}
+
+QString APEUnionMetaData::secondTagVersion() const
+{
+    return APETag() && !APETag()->isEmpty() ? u"APE"_s : QString();
+}

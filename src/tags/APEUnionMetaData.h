@@ -1,0 +1,34 @@
+#pragma once
+
+#include "tags/ID3UnionMetaData.h"
+
+namespace TagLib::APE {
+class Tag;
+}
+
+/// Adds the APE tag, for every property that has an APE item key, to the ID3 engines.
+class APEUnionMetaData : public HRFTagUnion<APEUnionMetaData, ID3UnionMetaData>
+{
+public:
+    /// The APE tag of the open file; may be null.
+    virtual TagLib::APE::Tag *APETag() const = 0;
+
+    /// The item's values joined with ", ". A null item key is an assertion.
+    HRFText stringForAPETag(const char *tagName) const;
+    /// Replaces the item; nothing removes it.
+    void setStringForAPETag(const HRFText &value, const char *tagName);
+    void removeValueForAPETag(const char *tagName);
+    HRFText stringForAPEKey(HRFTagKey key) const;
+    void setStringForAPEKey(const HRFText &value, HRFTagKey key);
+    void removeValueForAPEKey(HRFTagKey key);
+    HRFNumber numberForAPEKey(HRFTagKey key) const;
+    /// Nothing and 0 remove the item.
+    void setNumberForAPEKey(const HRFNumber &value, HRFTagKey key);
+
+    QVariant secondValueForKey(HRFTagKey key) const;
+    void setSecondValueForKey(const QVariant &value, HRFTagKey key);
+    QString secondTagVersion() const;
+
+protected:
+    using HRFTagUnion::HRFTagUnion;
+};

@@ -1,0 +1,149 @@
+#include "tags/HRFPiece.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cerrno>
+#include <functional>
+#include <numeric>
+#include <ranges>
+#include <utility>
+
+namespace {
+
+class PieceWriter
+{
+public:
+    explicit PieceWriter(HRFByteStore &store) : m_store(store) { }
+
+    HRFResult<void> write(const std::vector<HRFPiece> &pieces);
+
+private:
+    struct Placed
+    {
+        const HRFPiece *piece;
+        qint64 offset;
+    };
+
+    HRFResult<void> writePlaced(const std::vector<Placed> &placed);
+    HRFResult<void> moveUndoably(const Placed &placed);
+    HRFResult<void> overwriteUndoably(const Placed &placed);
+    HRFResult<void> move(qint64 from, qint64 to, qint64 length, qint64 &moved);
+    HRFError undo(HRFError cause, qint64 oldSize);
+
+    HRFByteStore &m_store;
+    std::vector<std::function<HRFResult<void>()>> m_undoSteps;
+    bool m_isDamaged = false;
+};
+
+HRFResult<void> PieceWriter::write(const std::vector<HRFPiece> &pieces)
+{
+    std::vector<Placed> placed;
+    qint64 newSize = 0;
+    for (const HRFPiece &piece : pieces)
+        placed.push_back({&piece, std::exchange(newSize, newSize + piece.length)});
+
+    const qint64 oldSize = m_store.size();
+    if (auto prepared = m_store.prepareWriting(newSize); !prepared)
+        return prepared;
+    if (auto written = writePlaced(placed); !written)
+        return std::unexpected(undo(std::move(written.error()), oldSize));
+    return m_store.finishWriting(newSize);
+}
+
+/// Stored pieces keep their order. Those that move towards the end never overwrite one that stays
+/// or moves towards the beginning, when taken from the last to the first; and the other way round.
+HRFResult<void> PieceWriter::writePlaced(const std::vector<Placed> &placed)
+{
+    HRFResult<void> result;
+    for (const Placed &item : placed | std::views::reverse)
+        if (result && !item.piece->isNew && item.offset > item.piece->source)
+            result = moveUndoably(item);
+    for (const Placed &item : placed)
+        if (result && !item.piece->isNew && item.offset < item.piece->source)
+            result = moveUndoably(item);
+    for (const Placed &item : placed)
+        if (result && item.piece->isNew)
+            result = overwriteUndoably(item);
+    return result;
+}
+
+/// A move only overwrites bytes that it has copied before or that no piece needs, except that one
+/// towards the beginning overwrites what it makes superfluous: that is kept aside.
+HRFResult<void> PieceWriter::moveUndoably(const Placed &placed)
+{
+    const qint64 from = placed.piece->source;
+    const qint64 to = placed.offset;
+    const qint64 length = placed.piece->length;
+    if (to < from) {
+        QByteArray overwritten(std::min(from - to, length), Qt::Uninitialized);
+        const std::span<char> buffer(overwritten.data(), std::size_t(overwritten.size()));
+        if (m_store.readAt(to, buffer) != overwritten.size())
+            return std::unexpected(HRFError::fromErrno(EIO));
+        m_undoSteps.emplace_back([this, to, overwritten] {
+            return m_store.writeAt(to, {overwritten.constData(), std::size_t(overwritten.size())});
+        });
+    }
+    qint64 moved = 0;
+    const HRFResult<void> result = move(from, to, length, moved);
+    m_undoSteps.emplace_back([this, from, to, length, moved] {
+        const qint64 skipped = to > from ? length - moved : 0;
+        qint64 movedBack = 0;
+        return move(to + skipped, from + skipped, moved, movedBack);
+    });
+    return result;
+}
+
+HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
+{
+    QByteArray overwritten(placed.piece->length, Qt::Uninitialized);
+    overwritten.truncate(
+        m_store.readAt(placed.offset, {overwritten.data(), std::size_t(overwritten.size())}));
+    m_undoSteps.emplace_back([this, offset = placed.offset, overwritten] {
+        return m_store.writeAt(offset, {overwritten.constData(), std::size_t(overwritten.size())});
+    });
+    return m_store.writeAt(placed.offset,
+                           {placed.piece->bytes.constData(), std::size_t(placed.piece->length)});
+}
+
+/// Copies chunk by chunk, from the end when moving towards the end; @p moved counts what is done.
+HRFResult<void> PieceWriter::move(qint64 from, qint64 to, qint64 length, qint64 &moved)
+{
+    constexpr qint64 chunkSize = 1 << 20;
+    std::vector<char> buffer(std::size_t(std::min(chunkSize, length)));
+    while (moved < length) {
+        const qint64 count = std::min(chunkSize, length - moved);
+        const qint64 position = to > from ? length - moved - count : moved;
+        const std::span<char> chunk(buffer.data(), std::size_t(count));
+        if (m_store.readAt(from + position, chunk) != count)
+            return std::unexpected(HRFError::fromErrno(EIO));
+        if (auto written = m_store.writeAt(to + position, chunk); !written) {
+            // A part of the chunk may have been written over its own source.
+            if (!m_store.writeAt(from + position, chunk))
+                m_isDamaged = true;
+            return written;
+        }
+        moved += count;
+    }
+    return {};
+}
+
+/// Restores the old contents and answers the error to report.
+HRFError PieceWriter::undo(HRFError cause, qint64 oldSize)
+{
+    bool isRestored = !m_isDamaged;
+    for (const auto &step : m_undoSteps | std::views::reverse)
+        isRestored = step().has_value() && isRestored;
+    isRestored = m_store.finishWriting(oldSize).has_value() && isRestored;
+    if (!isRestored)
+        cause.recoverySuggestion = QCoreApplication::translate(
+            "HRFTagStream", "The old contents could not be restored; the file may be damaged.");
+    return cause;
+}
+
+} // namespace
+
+HRFResult<void> HRFWritePieces(HRFByteStore &store, const std::vector<HRFPiece> &pieces)
+{
+    return PieceWriter(store).write(pieces);
+}

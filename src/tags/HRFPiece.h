@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tags/HRFByteStore.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+/// A run of a changed file's contents: bytes that the store holds, or new bytes.
+struct HRFPiece
+{
+    qint64 source = 0; ///< offset in the store; not used for new bytes
+    qint64 length = 0;
+    QByteArray bytes{}; ///< new bytes, or empty
+    bool isNew = false;
+};
+
+/// Rearranges a store in place so that it holds the given pieces one after the other; stored pieces
+/// must be in the order in which the store holds them. Room for a growing store is made first. When
+/// a write fails, the steps already taken are undone, so that the store holds its old contents.
+[[nodiscard]] HRFResult<void> HRFWritePieces(HRFByteStore &store,
+                                             const std::vector<HRFPiece> &pieces);

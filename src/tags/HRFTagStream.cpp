@@ -1,0 +1,180 @@
+#include "tags/HRFTagStream.h"
+
+#include "tags/HRFFileByteStore.h"
+
+#include <climits>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+HRFTagStream::HRFTagStream(std::unique_ptr<HRFByteStore> store) : m_store(std::move(store))
+{
+    discard();
+}
+
+void HRFTagStream::discard()
+{
+    m_length = m_store->size();
+    m_pieces.assign(1, HRFPiece{.length = m_length});
+    m_position = 0;
+    m_windowLength = 0;
+}
+
+void HRFTagStream::seek(TagLib::offset_t offset, Position position)
+{
+    const qint64 base = position == Beginning ? 0 : position == Current ? m_position : m_length;
+    m_position = std::max<qint64>(0, base + offset);
+}
+
+TagLib::ByteVector HRFTagStream::readBlock(std::size_t length)
+{
+    const qint64 available = std::max<qint64>(0, m_length - m_position);
+    const qint64 count =
+        std::min<qint64>(available, qint64(std::min<std::size_t>(length, INT_MAX)));
+    if (count == 0)
+        return {};
+    TagLib::ByteVector result(static_cast<unsigned int>(count));
+    std::span<char> buffer(result.data(), std::size_t(count));
+    qint64 pieceStart = 0;
+    for (const HRFPiece &piece : m_pieces) {
+        const qint64 skipped = m_position - pieceStart;
+        pieceStart += piece.length;
+        if (pieceStart <= m_position)
+            continue;
+        const auto part =
+            buffer.first(std::min(buffer.size(), std::size_t(piece.length - skipped)));
+        if (piece.isNew)
+            std::memcpy(part.data(), piece.bytes.constData() + skipped, part.size());
+        else
+            readStore(piece.source + skipped, part);
+        m_position += qint64(part.size());
+        buffer = buffer.subspan(part.size());
+        if (buffer.empty())
+            break;
+    }
+    return result;
+}
+
+/// Small reads come from a window, since parsers read a few bytes here and there. Bytes that cannot
+/// be read are zero.
+void HRFTagStream::readStore(qint64 offset, std::span<char> buffer)
+{
+    qint64 count = 0;
+    if (buffer.size() > m_window.size() / 2) {
+        count = m_store->readAt(offset, buffer);
+    } else {
+        const qint64 end = offset + qint64(buffer.size());
+        if (offset < m_windowOffset || end > m_windowOffset + m_windowLength) {
+            m_windowOffset = offset;
+            m_windowLength = m_store->readAt(offset, m_window);
+        }
+        count = std::max<qint64>(0, std::min(end, m_windowOffset + m_windowLength) - offset);
+        std::memcpy(buffer.data(), m_window.data() + (offset - m_windowOffset), std::size_t(count));
+    }
+    std::ranges::fill(buffer.subspan(std::size_t(count)), '\0');
+    m_hasReadFailed = m_hasReadFailed || count < qint64(buffer.size());
+}
+
+void HRFTagStream::writeBlock(const TagLib::ByteVector &data)
+{
+    replace(m_position, qint64(data.size()), {data.data(), data.size()});
+    m_position += qint64(data.size());
+}
+
+void HRFTagStream::insert(const TagLib::ByteVector &data, TagLib::offset_t start,
+                          std::size_t replaced)
+{
+    replace(start, qint64(std::min<std::size_t>(replaced, INT64_MAX)), {data.data(), data.size()});
+    m_position = start + qint64(data.size());
+}
+
+void HRFTagStream::removeBlock(TagLib::offset_t start, std::size_t length)
+{
+    replace(start, qint64(std::min<std::size_t>(length, INT64_MAX)), {});
+}
+
+void HRFTagStream::truncate(TagLib::offset_t length)
+{
+    if (length < m_length)
+        replace(length, m_length - length, {});
+    else
+        replace(length, 0, {});
+}
+
+/// Puts @p data in the place of the given range. A range that begins behind the end is preceded by
+/// zeros, as in a file.
+void HRFTagStream::replace(qint64 start, qint64 length, std::span<const char> data)
+{
+    if (start > m_length) {
+        const QByteArray zeros(start - m_length, '\0');
+        replace(m_length, 0, {zeros.constData(), std::size_t(zeros.size())});
+    }
+    length = std::min(length, m_length - start);
+    const std::size_t first = splitAt(start);
+    const std::size_t last = splitAt(start + length);
+    const auto erased =
+        m_pieces.erase(m_pieces.begin() + qsizetype(first), m_pieces.begin() + qsizetype(last));
+    m_length += qint64(data.size()) - length;
+    if (data.empty())
+        return;
+    // Writing on behind new bytes is common (one number after the other) and makes no new piece.
+    if (first > 0 && m_pieces[first - 1].isNew) {
+        m_pieces[first - 1].bytes.append(data.data(), qsizetype(data.size()));
+        m_pieces[first - 1].length += qint64(data.size());
+    } else {
+        m_pieces.insert(erased,
+                        HRFPiece{.length = qint64(data.size()),
+                                 .bytes = QByteArray(data.data(), qsizetype(data.size())),
+                                 .isNew = true});
+    }
+}
+
+/// Makes a piece begin at the given offset and answers its index; the number of pieces at the end.
+std::size_t HRFTagStream::splitAt(qint64 offset)
+{
+    qint64 start = 0;
+    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
+        if (offset <= start)
+            return i;
+        HRFPiece &piece = m_pieces[i];
+        if (offset < start + piece.length) {
+            const qint64 head = offset - start;
+            HRFPiece tail = piece;
+            tail.source += head;
+            tail.length -= head;
+            tail.bytes = piece.bytes.mid(head);
+            piece.bytes.truncate(head);
+            piece.length = head;
+            m_pieces.insert(m_pieces.begin() + qsizetype(i) + 1, std::move(tail));
+            return i + 1;
+        }
+        start += piece.length;
+    }
+    return m_pieces.size();
+}
+
+HRFResult<void> HRFTagStream::commit()
+{
+    const bool isUnchanged = m_pieces.empty()
+        ? m_store->size() == 0
+        : m_pieces.size() == 1 && !m_pieces[0].isNew && m_length == m_store->size();
+    if (isUnchanged)
+        return {};
+    if (m_hasReadFailed)
+        return std::unexpected(HRFError::fromErrno(EIO));
+    if (auto written = HRFWritePieces(*m_store, m_pieces); !written)
+        return written;
+    const qint64 position = m_position;
+    discard();
+    m_position = position;
+    return {};
+}
+
+HRFResult<std::shared_ptr<HRFTagStream>> openTagStream(const HRFFileReference &file)
+{
+    auto store = HRFFileByteStore::open(file);
+    if (!store)
+        return std::unexpected(std::move(store.error()));
+    return std::make_shared<HRFTagStream>(std::move(*store));
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "kit/HRFFileReference.h"
+#include "tags/HRFPiece.h"
+
+#include <taglib/tiostream.h>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+/// The stream through which TagLib reads and changes a file.
+///
+/// Changes are collected in memory and reach the file only with commit(): until then the file is
+/// untouched, and everything read through the stream already shows the changes. So a save can be
+/// checked before it happens, and one that fails half-way in TagLib costs nothing.
+class HRFTagStream : public TagLib::IOStream
+{
+public:
+    explicit HRFTagStream(std::unique_ptr<HRFByteStore> store);
+
+    /// Writes the changes into the file, in place; the file is as before when that fails.
+    [[nodiscard]] HRFResult<void> commit();
+    /// Forgets the changes.
+    void discard();
+    /// Whether bytes could not be read, so that what was read is not what the file holds.
+    bool hasReadFailed() const { return m_hasReadFailed; }
+
+    TagLib::FileName name() const override { return m_store->name().constData(); }
+    TagLib::ByteVector readBlock(std::size_t length) override;
+    void writeBlock(const TagLib::ByteVector &data) override;
+    void insert(const TagLib::ByteVector &data, TagLib::offset_t start,
+                std::size_t replace) override;
+    void removeBlock(TagLib::offset_t start, std::size_t length) override;
+    bool readOnly() const override { return !m_store->isWritable(); }
+    bool isOpen() const override { return true; }
+    void seek(TagLib::offset_t offset, Position position) override;
+    TagLib::offset_t tell() const override { return m_position; }
+    TagLib::offset_t length() override { return m_length; }
+    void truncate(TagLib::offset_t length) override;
+
+private:
+    void replace(qint64 start, qint64 length, std::span<const char> data);
+    std::size_t splitAt(qint64 offset);
+    void readStore(qint64 offset, std::span<char> buffer);
+
+    std::unique_ptr<HRFByteStore> m_store;
+    std::vector<HRFPiece> m_pieces; ///< in order; together the present contents
+    qint64 m_length = 0;
+    qint64 m_position = 0;
+    std::array<char, 4096> m_window; ///< bytes of the store around the last small read
+    qint64 m_windowOffset = 0;
+    qint64 m_windowLength = 0;
+    bool m_hasReadFailed = false;
+};
+
+/// Opens a file for an engine. All access of the engines to a file's bytes goes through here.
+HRFResult<std::shared_ptr<HRFTagStream>> openTagStream(const HRFFileReference &file);

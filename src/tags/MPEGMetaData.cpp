@@ -1,0 +1,155 @@
+#include "tags/MPEGMetaData.h"
+
+#include "kit/HRFUserDefaults.h"
+#include "tags/HRFTagStream.h"
+
+#include <QCoreApplication>
+#include <taglib/apetag.h>
+#include <taglib/id3v1tag.h>
+#include <taglib/id3v2tag.h>
+#include <taglib/mpegproperties.h>
+#include <taglib/xingheader.h>
+
+#include <cerrno>
+
+using namespace TagLib;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char *fileTypes[] = {"mp2", "mp3", "mpga"};
+
+/// The tag types that are switched on.
+int enabledTagTypes()
+{
+    const HRFUserDefaults &defaults = HRFUserDefaults::standard();
+    return (defaults.boolForKey(u"lirra.tagging.MPEG.ID3v2"_s) ? MPEG::File::ID3v2 : 0)
+        + (defaults.boolForKey(u"lirra.tagging.MPEG.ID3v1"_s) ? MPEG::File::ID3v1 : 0)
+        + (defaults.boolForKey(u"lirra.tagging.MPEG.APE"_s) ? MPEG::File::APE : 0);
+}
+
+QVariant channelModeName(const MPEG::Properties &properties)
+{
+    switch (properties.channelMode()) {
+    case MPEG::Header::Stereo:
+        return u"Stereo"_s;
+    case MPEG::Header::JointStereo:
+        return u"Joint Stereo"_s;
+    case MPEG::Header::DualChannel:
+        return u"Dual Channel"_s;
+    case MPEG::Header::SingleChannel:
+        return u"Mono"_s;
+    }
+    return {};
+}
+
+QVariant formatName(const MPEG::Properties &properties)
+{
+    const QString layer =
+        properties.layer() >= 1 ? u" layer %1"_s.arg(properties.layer()) : QString();
+    switch (properties.version()) {
+    case MPEG::Header::Version1:
+        return u"MPEG-1"_s + layer;
+    case MPEG::Header::Version2:
+        return u"MPEG-2"_s + layer;
+    case MPEG::Header::Version2_5:
+        return u"MPEG-2.5"_s + layer;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+const HRFEngineClass MPEGMetaData::metadataClass{"MPEGMetaData", fileTypes,
+                                                 &MPEGMetaData::initWithStream};
+
+MPEGMetaData::MPEGMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
+    : APEUnionMetaData(std::move(file))
+    , m_saveTagTypes(enabledTagTypes())
+    , m_tagFile(std::make_unique<MPEG::File>(&stream(), readProperties, AudioProperties::Average,
+                                             frameFactory()))
+{
+}
+
+HRFResult<std::unique_ptr<HRFTagEngine>>
+MPEGMetaData::initWithStream(std::shared_ptr<HRFTagStream> stream, bool readProperties)
+{
+    auto engine = std::make_unique<MPEGMetaData>(std::move(stream), readProperties);
+    if (!engine->m_tagFile->isValid() || !engine->isMPEGAudio())
+        return std::unexpected(reasonError(
+            QCoreApplication::translate("MPEGMetaData", "It has neither MPEG audio nor a tag")));
+    if (auto finished = engine->finishReading(); !finished)
+        return std::unexpected(finished.error());
+    return engine;
+}
+
+/// TagLib takes any bytes for an MPEG file.
+bool MPEGMetaData::isMPEGAudio() const
+{
+    return m_tagFile->hasID3v2Tag() || m_tagFile->hasID3v1Tag() || m_tagFile->hasAPETag()
+        || m_tagFile->firstFrameOffset() >= 0;
+}
+
+ID3v2::Tag *MPEGMetaData::ID3V2Tag() const
+{
+    ID3v2::Tag *tag = m_tagFile->ID3v2Tag(false);
+    return tag || !mayCreateTag(MPEG::File::ID3v2) ? tag : m_tagFile->ID3v2Tag(true);
+}
+
+ID3v1::Tag *MPEGMetaData::ID3V1Tag() const
+{
+    ID3v1::Tag *tag = m_tagFile->ID3v1Tag(false);
+    return tag || !mayCreateTag(MPEG::File::ID3v1) ? tag : m_tagFile->ID3v1Tag(true);
+}
+
+APE::Tag *MPEGMetaData::APETag() const
+{
+    APE::Tag *tag = m_tagFile->APETag(false);
+    return tag || !mayCreateTag(MPEG::File::APE) ? tag : m_tagFile->APETag(true);
+}
+
+bool MPEGMetaData::mayCreateTag(int type) const
+{
+    return (m_saveTagTypes & type) != 0 && !stream().readOnly();
+}
+
+HRFResult<void> MPEGMetaData::saveTags()
+{
+    if (auto prepared = prepareSaving(); !prepared)
+        return prepared;
+    const auto version = preferredID3v2Version() == 3 ? ID3v2::v3 : ID3v2::v4;
+    if (!m_tagFile->save(m_saveTagTypes, File::StripOthers, version, File::DoNotDuplicate))
+        return std::unexpected(HRFError::fromErrno(EIO));
+    return {};
+}
+
+HRFResult<void> MPEGMetaData::stripTags()
+{
+    const Lock guard = lock();
+    forgetChanges();
+    if (!canUpdateFile())
+        return std::unexpected(HRFError::fromErrno(EACCES));
+    if (!m_tagFile->strip(MPEG::File::AllTags))
+        return std::unexpected(HRFError::fromErrno(EIO));
+    return stream().commit();
+}
+
+QVariant MPEGMetaData::readValue(HRFTagKey key) const
+{
+    const MPEG::Properties *properties = m_tagFile->audioProperties();
+    switch (key) {
+    case HRFTagKey::isVBR:
+        return properties && properties->xingHeader() && properties->xingHeader()->isValid();
+    case HRFTagKey::isDRMProtected:
+        return properties && properties->protectionEnabled();
+    case HRFTagKey::channelMode:
+        return properties ? channelModeName(*properties) : QVariant();
+    case HRFTagKey::format:
+        return properties ? formatName(*properties) : QVariant();
+    case HRFTagKey::tagVersion:
+        return m_tagFile->tag()->isEmpty() ? QVariant() : APEUnionMetaData::readValue(key);
+    default:
+        return APEUnionMetaData::readValue(key);
+    }
+}
