@@ -14,6 +14,7 @@ struct HRFEngineClass
 {
     const char *name;
     std::span<const char *const> fileTypes; ///< lower-case path extensions
+    const char *contents; ///< what such a file contains, in words for the user
     /// Makes an engine of this class on an open file; fails when the file is not of its format.
     HRFResult<std::unique_ptr<HRFTagEngine>> (*initWithStream)(std::shared_ptr<HRFTagStream> stream,
                                                                bool readProperties);
@@ -21,3 +22,18 @@ struct HRFEngineClass
     /// Whether the file opens. Its contents are tested when an engine is made.
     bool canInitWithURL(const HRFFileReference &url) const;
 };
+
+/// Some of TagLib's files begin to read where the stream stands.
+void HRFRewind(HRFTagStream &stream);
+
+/// The initWithStream of an engine class whose constructor takes the same arguments.
+template <class Engine>
+HRFResult<std::unique_ptr<HRFTagEngine>> HRFMakeEngine(std::shared_ptr<HRFTagStream> stream,
+                                                       bool readProperties)
+{
+    HRFRewind(*stream);
+    auto engine = std::make_unique<Engine>(std::move(stream), readProperties);
+    if (auto checked = engine->checkFile(); !checked)
+        return std::unexpected(std::move(checked.error()));
+    return engine;
+}

@@ -1,6 +1,15 @@
 #include "tags/HRFEngineRegistry.h"
 
+#include "tags/AIFFMetaData.h"
+#include "tags/DSDIFFMetaData.h"
+#include "tags/DSFMetaData.h"
+#include "tags/FLACMetaData.h"
+#include "tags/MP4MetaData.h"
 #include "tags/MPEGMetaData.h"
+#include "tags/OGGOpusMetaData.h"
+#include "tags/OGGSpeexMetaData.h"
+#include "tags/OGGVorbisMetaData.h"
+#include "tags/WAVMetaData.h"
 
 #include <algorithm>
 
@@ -9,7 +18,16 @@ const HRFEngineRegistry &HRFEngineRegistry::shared()
     static const HRFEngineRegistry registry = [] {
         HRFEngineRegistry all;
         for (const HRFEngineClass *engineClass : {
+                 &MP4MetaData::metadataClass,
                  &MPEGMetaData::metadataClass,
+                 &FLACMetaData::metadataClass,
+                 &OGGOpusMetaData::metadataClass,
+                 &WAVMetaData::metadataClass,
+                 &OGGVorbisMetaData::metadataClass,
+                 &DSFMetaData::metadataClass,
+                 &DSDIFFMetaData::metadataClass,
+                 &AIFFMetaData::metadataClass,
+                 &OGGSpeexMetaData::metadataClass,
              })
             all.registerMetadataClass(*engineClass);
         return all;

@@ -120,6 +120,11 @@ bool HRFEngineClass::canInitWithURL(const HRFFileReference &url) const
     return openTagStream(url).has_value();
 }
 
+void HRFRewind(HRFTagStream &stream)
+{
+    stream.seek(0, HRFTagStream::Beginning);
+}
+
 const std::set<QByteArray> &HRFTagEngine::metaDataFileTypes()
 {
     static const std::set<QByteArray> types = HRFEngineRegistry::shared().types();
@@ -179,6 +184,18 @@ const TagLib::AudioProperties *HRFTagEngine::audioProperties() const
     return tagFile()->audioProperties();
 }
 
+HRFResult<void> HRFTagEngine::checkFile()
+{
+    if (tagFile()->isValid())
+        return {};
+    return std::unexpected(contentsError());
+}
+
+HRFError HRFTagEngine::contentsError() const
+{
+    return reasonError(tr("It does not contain %1").arg(tr(engineClass().contents)));
+}
+
 bool HRFTagEngine::canUpdateFile() const
 {
     const Lock guard = lock();
@@ -219,9 +236,9 @@ HRFError HRFTagEngine::saveError(const HRFError &cause) const
 HRFResult<void> HRFTagEngine::updateFile()
 {
     std::vector<std::pair<HRFTagKey, QVariant>> values;
-    for (const auto &[key, hasContent] : m_changedKeys) {
+    for (const auto &[key, wasSet] : m_changedKeys) {
         values.emplace_back(key, readValue(key));
-        if (hasContent && HRFTagValue::isNothing(values.back().second))
+        if (wasSet != hasContent(values.back().second))
             return std::unexpected(notKeptError(key));
     }
     if (auto saved = saveTags(); !saved)

@@ -66,6 +66,9 @@ public:
     /// Removes every tag that the engine knows from the open file.
     [[nodiscard]] virtual HRFResult<void> stripTags() = 0;
 
+    /// Whether the file, just opened, is of the engine's format and whole enough to be worked on.
+    [[nodiscard]] virtual HRFResult<void> checkFile();
+
     /// The native field of a property in each tag format; nullptr when there is none.
     static const char *ID3FrameForKey(HRFTagKey key);
     static const char *ID3v2_4FrameForKey(HRFTagKey key);
@@ -98,6 +101,8 @@ protected:
     [[nodiscard]] HRFResult<void> updateFile();
     /// The values set so far need not be in the file any more: its tags are gone.
     void forgetChanges() { m_changedKeys.clear(); }
+    /// The error of a file that is not of the engine's format.
+    HRFError contentsError() const;
     /// An error that only says why.
     static HRFError reasonError(const QString &reason);
 

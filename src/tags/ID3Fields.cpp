@@ -15,7 +15,7 @@
 #include <taglib/unsynchronizedlyricsframe.h>
 
 #include <algorithm>
-#include <array>
+#include <memory>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -269,13 +269,15 @@ QVariant readFrames(const ID3MetaData &engine, HRFTagKey)
 }
 
 template <HRFTagKey Number, HRFTagKey Total>
-constexpr ID3FieldHandler numberHandler{Number, readNumber<Number>, writeNumber<Number, Total>};
+constexpr HRFFieldHandler<ID3MetaData> numberHandler{Number, readNumber<Number>,
+                                                     writeNumber<Number, Total>};
 template <HRFTagKey Number, HRFTagKey Total>
-constexpr ID3FieldHandler totalHandler{Total, readTotal<Number>, writeTotal<Number, Total>};
+constexpr HRFFieldHandler<ID3MetaData> totalHandler{Total, readTotal<Number>,
+                                                    writeTotal<Number, Total>};
 
 using K = HRFTagKey;
 
-constexpr ID3FieldHandler handlers[] = {
+constexpr HRFFieldHandler<ID3MetaData> handlers[] = {
     {K::website, readWebsite, writeWebsite},
     {K::comment, readComment, writeComment},
     {K::lyrics, readLyrics, writeLyrics},
@@ -298,17 +300,11 @@ constexpr ID3FieldHandler handlers[] = {
     {K::frames, readFrames},
 };
 
-/// From key to handler.
-constexpr auto handlersByKey = [] {
-    std::array<const ID3FieldHandler *, HRFTagKeyCount> table{};
-    for (const ID3FieldHandler &handler : handlers)
-        table[std::size_t(handler.key)] = &handler;
-    return table;
-}();
+constexpr auto handlersByKey = HRFHandlersByKey(handlers);
 
 } // namespace
 
-const ID3FieldHandler *ID3FieldHandlerForKey(HRFTagKey key)
+const HRFFieldHandler<ID3MetaData> *ID3FieldHandlerForKey(HRFTagKey key)
 {
     return handlersByKey[std::size_t(key)];
 }

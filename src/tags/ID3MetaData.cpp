@@ -10,8 +10,10 @@
 #include <QCoreApplication>
 #include <taglib/id3v2tag.h>
 #include <taglib/textidentificationframe.h>
+#include <taglib/tfile.h>
 
 #include <atomic>
+#include <cerrno>
 #include <set>
 
 using namespace TagLib;
@@ -155,7 +157,7 @@ void ID3MetaData::setStringForKey(const HRFText &value, HRFTagKey key)
 
 QVariant ID3MetaData::readValue(HRFTagKey key) const
 {
-    if (const ID3FieldHandler *handler = ID3FieldHandlerForKey(key))
+    if (const auto *handler = ID3FieldHandlerForKey(key))
         return handler->read(*this, key);
     if (!HRFRowForKey(key).isTag)
         return HRFTagEngine::readValue(key);
@@ -164,7 +166,7 @@ QVariant ID3MetaData::readValue(HRFTagKey key) const
 
 void ID3MetaData::writeValue(const QVariant &value, HRFTagKey key)
 {
-    if (const ID3FieldHandler *handler = ID3FieldHandlerForKey(key))
+    if (const auto *handler = ID3FieldHandlerForKey(key))
         return handler->write(*this, key, value);
     ID3MetaData::setStringForKey(textFromValue(value, HRFRowForKey(key).type), key);
 }
@@ -184,8 +186,10 @@ HRFResult<void> ID3MetaData::stripTags()
     return {};
 }
 
-HRFResult<void> ID3MetaData::finishReading()
+HRFResult<void> ID3MetaData::checkFile()
 {
+    if (auto checked = HRFTagEngine::checkFile(); !checked)
+        return checked;
     ID3v2::Tag *tag = ID3V2Tag();
     if (!tag || tag->header()->tagSize() == 0)
         return {};
@@ -196,14 +200,23 @@ HRFResult<void> ID3MetaData::finishReading()
     return {};
 }
 
-HRFResult<void> ID3MetaData::prepareSaving()
+HRFResult<void> ID3MetaData::prepareSaving(int version)
 {
     ID3v2::Tag *tag = ID3V2Tag();
     if (!tag || tag->isEmpty())
         return {};
     if (!m_frameFactory.obstacle().isEmpty())
         return std::unexpected(reasonError(m_frameFactory.obstacle()));
-    if (preferredID3v2Version() == 3)
+    if (version == 3)
         ID3Version3::prepare(*tag);
+    return {};
+}
+
+HRFResult<void> ID3MetaData::saveAsVersion4(File &file)
+{
+    if (auto prepared = prepareSaving(4); !prepared)
+        return prepared;
+    if (!file.save())
+        return std::unexpected(HRFError::fromErrno(EIO));
     return {};
 }

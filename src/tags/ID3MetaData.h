@@ -53,6 +53,8 @@ public:
     HRFText stringForKey(HRFTagKey key) const override;
     void setStringForKey(const HRFText &value, HRFTagKey key) override;
     HRFResult<void> stripTags() override;
+    /// Completes the tag that TagLib has read, too.
+    HRFResult<void> checkFile() override;
 
 protected:
     explicit ID3MetaData(std::shared_ptr<HRFTagStream> stream);
@@ -61,10 +63,10 @@ protected:
     void writeValue(const QVariant &value, HRFTagKey key) override;
 
     TagLib::ID3v2::FrameFactory *frameFactory() { return &m_frameFactory; }
-    /// Completes and checks the tag that TagLib has read.
-    HRFResult<void> finishReading();
-    /// Readies the tag for being saved in the preferred version.
-    HRFResult<void> prepareSaving();
+    /// Readies the tag for being saved in the given version, 3 or 4.
+    [[nodiscard]] HRFResult<void> prepareSaving(int version);
+    /// Saves a file whose format always has ID3v2.4 tags.
+    [[nodiscard]] HRFResult<void> saveAsVersion4(TagLib::File &file);
 
 private:
     HRFFrameFactory m_frameFactory;

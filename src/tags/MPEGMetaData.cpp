@@ -61,8 +61,9 @@ QVariant formatName(const MPEG::Properties &properties)
 
 } // namespace
 
-const HRFEngineClass MPEGMetaData::metadataClass{"MPEGMetaData", fileTypes,
-                                                 &MPEGMetaData::initWithStream};
+const HRFEngineClass MPEGMetaData::metadataClass{
+    "MPEGMetaData", fileTypes, QT_TRANSLATE_NOOP("HRFTagEngine", "MPEG audio or a tag"),
+    &HRFMakeEngine<MPEGMetaData>};
 
 MPEGMetaData::MPEGMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : APEUnionMetaData(std::move(file))
@@ -72,23 +73,13 @@ MPEGMetaData::MPEGMetaData(std::shared_ptr<HRFTagStream> file, bool readProperti
 {
 }
 
-HRFResult<std::unique_ptr<HRFTagEngine>>
-MPEGMetaData::initWithStream(std::shared_ptr<HRFTagStream> stream, bool readProperties)
-{
-    auto engine = std::make_unique<MPEGMetaData>(std::move(stream), readProperties);
-    if (!engine->m_tagFile->isValid() || !engine->isMPEGAudio())
-        return std::unexpected(reasonError(
-            QCoreApplication::translate("MPEGMetaData", "It has neither MPEG audio nor a tag")));
-    if (auto finished = engine->finishReading(); !finished)
-        return std::unexpected(finished.error());
-    return engine;
-}
-
 /// TagLib takes any bytes for an MPEG file.
-bool MPEGMetaData::isMPEGAudio() const
+HRFResult<void> MPEGMetaData::checkFile()
 {
-    return m_tagFile->hasID3v2Tag() || m_tagFile->hasID3v1Tag() || m_tagFile->hasAPETag()
-        || m_tagFile->firstFrameOffset() >= 0;
+    if (!m_tagFile->hasID3v2Tag() && !m_tagFile->hasID3v1Tag() && !m_tagFile->hasAPETag()
+        && m_tagFile->firstFrameOffset() < 0)
+        return std::unexpected(contentsError());
+    return APEUnionMetaData::checkFile();
 }
 
 ID3v2::Tag *MPEGMetaData::ID3V2Tag() const
@@ -116,7 +107,7 @@ bool MPEGMetaData::mayCreateTag(int type) const
 
 HRFResult<void> MPEGMetaData::saveTags()
 {
-    if (auto prepared = prepareSaving(); !prepared)
+    if (auto prepared = prepareSaving(preferredID3v2Version()); !prepared)
         return prepared;
     const auto version = preferredID3v2Version() == 3 ? ID3v2::v3 : ID3v2::v4;
     if (!m_tagFile->save(m_saveTagTypes, File::StripOthers, version, File::DoNotDuplicate))

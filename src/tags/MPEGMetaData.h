@@ -18,6 +18,7 @@ public:
     TagLib::APE::Tag *APETag() const override;
     /// Removes all tags and writes the file.
     HRFResult<void> stripTags() override;
+    HRFResult<void> checkFile() override;
 
 protected:
     QVariant readValue(HRFTagKey key) const override;
@@ -26,11 +27,7 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
-    static HRFResult<std::unique_ptr<HRFTagEngine>>
-    initWithStream(std::shared_ptr<HRFTagStream> stream, bool readProperties);
-
     bool mayCreateTag(int type) const;
-    bool isMPEGAudio() const;
 
     const int m_saveTagTypes; ///< the types that are switched on: they are created and saved
     std::unique_ptr<TagLib::MPEG::File> m_tagFile;

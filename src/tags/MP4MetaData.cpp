@@ -1,0 +1,163 @@
+#include "tags/MP4MetaData.h"
+
+#include "kit/HRFAssert.h"
+#include "tags/HRFTagStream.h"
+#include "tags/MP4Check.h"
+#include "tags/MP4Fields.h"
+#include "tags/TagLibText.h"
+
+#include <taglib/mp4item.h>
+#include <taglib/mp4tag.h>
+
+#include <cerrno>
+
+using namespace TagLib;
+
+namespace {
+
+constexpr const char *fileTypes[] = {"mp4", "mpg4", "m4a", "m4b", "m4p",
+                                     "m4r", "m4v",  "aac", "adts"};
+
+}
+
+const HRFEngineClass MP4MetaData::metadataClass{
+    "MP4MetaData", fileTypes, QT_TRANSLATE_NOOP("HRFTagEngine", "an MP4 container"),
+    &HRFMakeEngine<MP4MetaData>};
+
+MP4MetaData::MP4MetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
+    : HRFTagEngine(std::move(file))
+    , m_tagFile(std::make_unique<MP4::File>(&stream(), readProperties))
+{
+}
+
+HRFText MP4MetaData::stringForTag(const char *tagName) const
+{
+    HRFRequire(tagName, "tagName");
+    const Lock guard = lock();
+    const MP4::Tag *tag = m_tagFile->tag();
+    if (!tag || !tag->contains(tagName))
+        return {};
+    const StringList texts = tag->item(tagName).toStringList();
+    return texts.isEmpty() ? QString::fromLatin1("") : TagLibText::toQString(texts.front());
+}
+
+void MP4MetaData::setStringForTag(const HRFText &value, const char *tagName)
+{
+    HRFRequire(tagName, "tagName");
+    if (!value)
+        return removeValueForTag(tagName);
+    const Lock guard = lock();
+    if (MP4::Tag *tag = m_tagFile->tag())
+        tag->setItem(tagName, StringList(TagLibText::toTagString(*value)));
+}
+
+void MP4MetaData::removeValueForTag(const char *tagName)
+{
+    HRFRequire(tagName, "tagName");
+    const Lock guard = lock();
+    if (MP4::Tag *tag = m_tagFile->tag())
+        tag->removeItem(tagName);
+}
+
+HRFNumber MP4MetaData::numberForIntPairWithTag(const char *tagName, bool first) const
+{
+    HRFRequire(tagName, "tagName");
+    const Lock guard = lock();
+    const MP4::Tag *tag = m_tagFile->tag();
+    if (!tag || !tag->contains(tagName))
+        return {};
+    const MP4::Item::IntPair pair = tag->item(tagName).toIntPair();
+    if (pair.first == 0 && pair.second == 0)
+        return 0;
+    const int half = first ? pair.first : pair.second;
+    return half == 0 ? HRFNumber() : half;
+}
+
+void MP4MetaData::setFirstValueSecondValueForTag(const HRFNumber &first, const HRFNumber &second,
+                                                 const char *tagName)
+{
+    HRFRequire(tagName, "tagName");
+    const Lock guard = lock();
+    const int number = int(first.value_or(0));
+    const int total = int(second.value_or(0));
+    if (number == 0 && total == 0)
+        removeValueForTag(tagName);
+    else if (MP4::Tag *tag = m_tagFile->tag())
+        tag->setItem(tagName, MP4::Item(number, total));
+}
+
+HRFText MP4MetaData::stringForKey(HRFTagKey key) const
+{
+    const char *atomName = atomNameForKey(key);
+    return atomName ? stringForTag(atomName) : HRFText();
+}
+
+void MP4MetaData::setStringForKey(const HRFText &value, HRFTagKey key)
+{
+    if (const char *atomName = atomNameForKey(key))
+        setStringForTag(value, atomName);
+}
+
+HRFBoolean MP4MetaData::booleanForKey(HRFTagKey key) const
+{
+    const char *atomName = atomNameForKey(key);
+    const Lock guard = lock();
+    const MP4::Tag *tag = m_tagFile->tag();
+    if (!tag || !atomName || !tag->contains(atomName))
+        return {};
+    return tag->item(atomName).toBool();
+}
+
+void MP4MetaData::setBooleanForKey(const HRFBoolean &value, HRFTagKey key)
+{
+    const char *atomName = atomNameForKey(key);
+    if (!atomName)
+        return;
+    if (!value.value_or(false))
+        return removeValueForTag(atomName);
+    const Lock guard = lock();
+    if (MP4::Tag *tag = m_tagFile->tag())
+        tag->setItem(atomName, MP4::Item(true));
+}
+
+HRFResult<void> MP4MetaData::stripTags()
+{
+    const Lock guard = lock();
+    forgetChanges();
+    MP4::Tag *tag = m_tagFile->tag();
+    if (!tag)
+        return {};
+    std::vector<String> names;
+    for (const auto &[name, item] : tag->itemMap())
+        names.push_back(name);
+    for (const String &name : names)
+        tag->removeItem(name);
+    return {};
+}
+
+QVariant MP4MetaData::readValue(HRFTagKey key) const
+{
+    if (const auto *handler = MP4FieldHandlerForKey(key))
+        return handler->read(*this, key);
+    return HRFTagEngine::readValue(key);
+}
+
+void MP4MetaData::writeValue(const QVariant &value, HRFTagKey key)
+{
+    if (const auto *handler = MP4FieldHandlerForKey(key))
+        return handler->write(*this, key, value);
+    HRFTagEngine::writeValue(value, key);
+}
+
+HRFResult<void> MP4MetaData::saveTags()
+{
+    if (const QString obstacle = MP4ObstacleToSaving(*m_tagFile); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
+    const qint64 oldLength = stream().length();
+    if (!m_tagFile->save())
+        return std::unexpected(HRFError::fromErrno(EIO));
+    if (stream().length() != oldLength)
+        if (const QString obstacle = MP4ObstacleToMoving(*m_tagFile); !obstacle.isEmpty())
+            return std::unexpected(reasonError(obstacle));
+    return {};
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "tags/HRFEngineClass.h"
+#include "tags/HRFTagEngine.h"
+
+namespace TagLib::Ogg {
+class XiphComment;
+}
+
+/// The engine of every format whose tag is a Vorbis comment. A subclass opens the file.
+class VorbisMetaData : public HRFTagEngine
+{
+public:
+    /// The Vorbis comment of the open file; may be null.
+    virtual TagLib::Ogg::XiphComment *xiphTag() const;
+
+    /// All values of the field, joined with a space. A null field name is an assertion.
+    HRFText stringForXiphTag(const char *tagName) const;
+    /// Makes the text the only value of the field; nothing removes the field.
+    void setStringForXiphTag(const HRFText &value, const char *tagName);
+    void removeValueForXiphTag(const char *tagName);
+
+    HRFText stringForKey(HRFTagKey key) const override;
+    void setStringForKey(const HRFText &value, HRFTagKey key) override;
+    HRFResult<void> stripTags() override;
+
+protected:
+    explicit VorbisMetaData(std::shared_ptr<HRFTagStream> stream);
+
+    QVariant readValue(HRFTagKey key) const override;
+    void writeValue(const QVariant &value, HRFTagKey key) override;
+    TagLib::File *tagFile() const override { return m_tagFile.get(); }
+    void setTagFile(std::unique_ptr<TagLib::File> file);
+    HRFResult<void> saveTags() override;
+
+    /// Pictures in the comment.
+    QByteArray commentArtwork() const;
+    void setCommentArtwork(const QByteArray &data);
+
+private:
+    std::unique_ptr<TagLib::File> m_tagFile;
+};
