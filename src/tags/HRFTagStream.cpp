@@ -17,6 +17,7 @@ void HRFTagStream::discard()
 {
     m_length = m_store->size();
     m_pieces.assign(1, HRFPiece{.length = m_length});
+    m_cursor = {};
     m_position = 0;
     m_windowLength = 0;
 }
@@ -36,12 +37,9 @@ TagLib::ByteVector HRFTagStream::readBlock(std::size_t length)
         return {};
     TagLib::ByteVector result(static_cast<unsigned int>(count));
     std::span<char> buffer(result.data(), std::size_t(count));
-    qint64 pieceStart = 0;
-    for (const HRFPiece &piece : m_pieces) {
-        const qint64 skipped = m_position - pieceStart;
-        pieceStart += piece.length;
-        if (pieceStart <= m_position)
-            continue;
+    for (Cursor cursor = locate(m_position); !buffer.empty(); ++cursor.index) {
+        const HRFPiece &piece = m_pieces[cursor.index];
+        const qint64 skipped = m_position - cursor.start;
         const auto part =
             buffer.first(std::min(buffer.size(), std::size_t(piece.length - skipped)));
         if (piece.isNew)
@@ -50,8 +48,7 @@ TagLib::ByteVector HRFTagStream::readBlock(std::size_t length)
             readStore(piece.source + skipped, part);
         m_position += qint64(part.size());
         buffer = buffer.subspan(part.size());
-        if (buffer.empty())
-            break;
+        cursor.start += piece.length;
     }
     return result;
 }
@@ -116,12 +113,14 @@ void HRFTagStream::replace(qint64 start, qint64 length, std::span<const char> da
     const auto erased =
         m_pieces.erase(m_pieces.begin() + qsizetype(first), m_pieces.begin() + qsizetype(last));
     m_length += qint64(data.size()) - length;
+    m_cursor = {first, start};
     if (data.empty())
         return;
     // Writing on behind new bytes is common (one number after the other) and makes no new piece.
     if (first > 0 && m_pieces[first - 1].isNew) {
         m_pieces[first - 1].bytes.append(data.data(), qsizetype(data.size()));
         m_pieces[first - 1].length += qint64(data.size());
+        m_cursor.start += qint64(data.size());
     } else {
         m_pieces.insert(erased,
                         HRFPiece{.length = qint64(data.size()),
@@ -130,28 +129,33 @@ void HRFTagStream::replace(qint64 start, qint64 length, std::span<const char> da
     }
 }
 
+/// The piece that holds the byte at the given offset; behind the last byte, the end of the pieces.
+HRFTagStream::Cursor HRFTagStream::locate(qint64 offset)
+{
+    if (offset < m_cursor.start)
+        m_cursor = {};
+    while (m_cursor.index < m_pieces.size()
+           && offset >= m_cursor.start + m_pieces[m_cursor.index].length)
+        m_cursor.start += m_pieces[m_cursor.index++].length;
+    return m_cursor;
+}
+
 /// Makes a piece begin at the given offset and answers its index; the number of pieces at the end.
 std::size_t HRFTagStream::splitAt(qint64 offset)
 {
-    qint64 start = 0;
-    for (std::size_t i = 0; i < m_pieces.size(); ++i) {
-        if (offset <= start)
-            return i;
-        HRFPiece &piece = m_pieces[i];
-        if (offset < start + piece.length) {
-            const qint64 head = offset - start;
-            HRFPiece tail = piece;
-            tail.source += head;
-            tail.length -= head;
-            tail.bytes = piece.bytes.mid(head);
-            piece.bytes.truncate(head);
-            piece.length = head;
-            m_pieces.insert(m_pieces.begin() + qsizetype(i) + 1, std::move(tail));
-            return i + 1;
-        }
-        start += piece.length;
-    }
-    return m_pieces.size();
+    const Cursor cursor = locate(offset);
+    if (cursor.start == offset || cursor.index == m_pieces.size())
+        return cursor.index;
+    HRFPiece &piece = m_pieces[cursor.index];
+    const qint64 head = offset - cursor.start;
+    HRFPiece tail = piece;
+    tail.source += head;
+    tail.length -= head;
+    tail.bytes = piece.bytes.mid(head);
+    piece.bytes.truncate(head);
+    piece.length = head;
+    m_pieces.insert(m_pieces.begin() + qsizetype(cursor.index) + 1, std::move(tail));
+    return cursor.index + 1;
 }
 
 HRFResult<void> HRFTagStream::commit()

@@ -41,11 +41,20 @@ public:
 
 private:
     void replace(qint64 start, qint64 length, std::span<const char> data);
+    /// A piece by its index, with the offset at which it begins in the present contents.
+    struct Cursor
+    {
+        std::size_t index = 0;
+        qint64 start = 0;
+    };
+
+    Cursor locate(qint64 offset);
     std::size_t splitAt(qint64 offset);
     void readStore(qint64 offset, std::span<char> buffer);
 
     std::unique_ptr<HRFByteStore> m_store;
     std::vector<HRFPiece> m_pieces; ///< in order; together the present contents
+    Cursor m_cursor; ///< where the last search ended; searches mostly go forwards
     qint64 m_length = 0;
     qint64 m_position = 0;
     std::array<char, 4096> m_window; ///< bytes of the store around the last small read
