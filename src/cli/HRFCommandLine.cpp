@@ -30,6 +30,13 @@ std::string tagList()
     return list;
 }
 
+const std::map<std::string, HRFErrorAnswer> errorAnswers = {
+    {"ask", HRFErrorAnswer::Ask},
+    {"fix", HRFErrorAnswer::Fix},
+    {"continue", HRFErrorAnswer::Continue},
+    {"cancel", HRFErrorAnswer::Cancel},
+};
+
 void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
 {
     app.add_option("-D", options.definitions, "Use this value of a setting for this run")
@@ -41,11 +48,7 @@ void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
     app.add_flag("--quiet", options.isQuiet, "Show no progress");
     app.add_option("--on-error", options.onError, "What to do when a file cannot be written")
         ->type_name("ask|fix|continue|cancel")
-        ->transform(CLI::Transformer(
-            std::map<std::string, HRFErrorAnswer>{{"ask", HRFErrorAnswer::Ask},
-                                                  {"fix", HRFErrorAnswer::Fix},
-                                                  {"continue", HRFErrorAnswer::Continue},
-                                                  {"cancel", HRFErrorAnswer::Cancel}}));
+        ->transform(CLI::CheckedTransformer(errorAnswers).description(""));
     app.set_version_flag("--version", "lirra-cli " LIRRA_VERSION);
 }
 
