@@ -46,9 +46,12 @@ void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
         ->type_name("FILE");
     app.add_flag("--dry-run", options.isDryRun, "Print what would change, change nothing");
     app.add_flag("--quiet", options.isQuiet, "Show no progress");
-    app.add_option("--on-error", options.onError, "What to do when a file cannot be written")
+    app.add_option_function<std::string>(
+           "--on-error",
+           [&options](const std::string &answer) { options.onError = errorAnswers.at(answer); },
+           "What to do when a file cannot be written")
         ->type_name("ask|fix|continue|cancel")
-        ->transform(CLI::CheckedTransformer(errorAnswers).description(""));
+        ->check(CLI::IsMember(errorAnswers).description(""));
     app.set_version_flag("--version", "lirra-cli " LIRRA_VERSION);
 }
 
