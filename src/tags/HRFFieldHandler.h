@@ -8,8 +8,8 @@
 /// How an engine reads and writes a property that is not plain text in its format.
 template <class Engine> struct HRFFieldHandler
 {
-    HRFTagKey key;
-    QVariant (*read)(const Engine &engine, HRFTagKey key);
+    HRFTagKey key = {};
+    QVariant (*read)(const Engine &engine, HRFTagKey key) = nullptr;
     /// Null for what cannot be set.
     void (*write)(Engine &engine, HRFTagKey key, const QVariant &value) = nullptr;
 };

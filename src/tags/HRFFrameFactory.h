@@ -12,7 +12,7 @@ class Tag;
 ///
 /// Unlike TagLib's own factory it leaves the text encoding of existing frames alone, keeps frames
 /// that TagLib would drop on saving, and notices what TagLib leaves unparsed.
-class HRFFrameFactory : public TagLib::ID3v2::FrameFactory
+class HRFFrameFactory final : public TagLib::ID3v2::FrameFactory
 {
 public:
     TagLib::ID3v2::Frame *createFrame(const TagLib::ByteVector &data,

@@ -57,7 +57,7 @@ private:
     Cursor m_cursor; ///< where the last search ended; searches mostly go forwards
     qint64 m_length = 0;
     qint64 m_position = 0;
-    std::array<char, 4096> m_window; ///< bytes of the store around the last small read
+    std::array<char, 4096> m_window{}; ///< bytes of the store around the last small read
     qint64 m_windowOffset = 0;
     qint64 m_windowLength = 0;
     bool m_hasReadFailed = false;

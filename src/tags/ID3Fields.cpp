@@ -37,7 +37,7 @@ template <class Frame> Frame *firstFrame(const ID3MetaData &engine, HRFTagKey ke
 /// The same; without one, a new frame that has been added to the tag.
 template <class Frame> Frame *firstOrNewFrame(const ID3MetaData &engine, HRFTagKey key)
 {
-    Frame *frame = firstFrame<Frame>(engine, key);
+    auto *frame = firstFrame<Frame>(engine, key);
     if (!frame) {
         frame = new Frame;
         engine.ID3V2Tag()->addFrame(frame);
