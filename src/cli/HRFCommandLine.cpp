@@ -9,6 +9,11 @@
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
+#include <QFile>
+
+#include <algorithm>
+#include <string>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -84,6 +89,18 @@ void addCommands(CLI::App &app, HRFCommandOptions &options, Command &chosen)
     addCommand(app, options, chosen, &HRFStripTags, "strip", "Remove every tag of files");
 }
 
+/// The arguments, the last one first, as CLI11 takes them. It would take "[2004]", which may well
+/// be a folder, for a list; "./[2004]" is the same folder.
+std::vector<std::string> reversedArguments(int argc, char **argv)
+{
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    for (std::string &argument : arguments)
+        if (argument.starts_with('[') && argument.ends_with(']'))
+            argument.insert(0, "./");
+    std::ranges::reverse(arguments);
+    return arguments;
+}
+
 /// What is wrong with a value for a setting; empty when nothing is.
 QString problemWithSetting(const QString &key, const QString &value)
 {
@@ -107,8 +124,12 @@ QString problemWithSetting(const QString &key, const QString &value)
 QString applySettings(const HRFCommandOptions &options)
 {
     HRFUserDefaults &defaults = HRFUserDefaults::standard();
-    if (!options.configFile.empty())
-        defaults.setFilePath(QString::fromStdString(options.configFile));
+    if (!options.configFile.empty()) {
+        const QString path = QString::fromStdString(options.configFile);
+        if (!QFile(path).open(QIODevice::ReadOnly))
+            return u"--config %1: The file cannot be read"_s.arg(path);
+        defaults.setFilePath(path);
+    }
     for (const std::string &definition : options.definitions) {
         const QString text = QString::fromStdString(definition);
         const qsizetype equals = text.indexOf(u'=');
@@ -135,7 +156,7 @@ int HRFRunCommandLine(int argc, char **argv)
     addGlobalOptions(app, options);
     addCommands(app, options, chosen);
     try {
-        app.parse(argc, argv);
+        app.parse(reversedArguments(argc, argv));
     } catch (const CLI::ParseError &error) {
         return app.exit(error) == 0 ? HRFExitStatus::done : HRFExitStatus::wrongUsage;
     }

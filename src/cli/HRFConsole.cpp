@@ -2,8 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <iostream>
-#include <string>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -68,9 +66,12 @@ QString HRFConsole::ask(const QString &question)
     clearProgress();
     const QByteArray text = printable(question).toUtf8();
     std::fwrite(text.constData(), 1, std::size_t(text.size()), stderr);
-    std::string line;
-    std::getline(std::cin, line);
-    return QString::fromStdString(line).trimmed().toLower();
+    // Not through a buffered stream, which goes on reading after a signal.
+    QByteArray line;
+    char character = '\0';
+    while (::read(STDIN_FILENO, &character, 1) == 1 && character != '\n')
+        line += character;
+    return QString::fromUtf8(line).trimmed().toLower();
 }
 
 QString HRFConsole::printable(const QString &text)

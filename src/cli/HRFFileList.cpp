@@ -1,5 +1,6 @@
 #include "cli/HRFFileList.h"
 
+#include "cli/HRFInterruption.h"
 #include "kit/HRFError.h"
 #include "tags/HRFTagEngine.h"
 
@@ -8,12 +9,24 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <sys/stat.h>
 #include <system_error>
+#include <utility>
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The C locale compares bytes and knows no numbers.
+QLocale collationLocale()
+{
+    const QLocale locale = QLocale::system();
+    return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
+}
+
+/// Tells whether two paths lead to one file: device and inode.
+using FileIdentity = std::pair<dev_t, ino_t>;
 
 class FileCollector
 {
@@ -40,9 +53,9 @@ private:
     std::vector<Entry> sortedEntries(const fs::path &folder);
     void addProblem(const std::string &path, const std::error_code &error);
 
-    QCollator m_collator{QLocale::system()};
+    QCollator m_collator{collationLocale()};
     HRFFileList m_list;
-    std::set<QByteArray> m_seen;
+    std::set<FileIdentity> m_seen;
     std::size_t m_found = 0;
 };
 
@@ -66,16 +79,21 @@ void FileCollector::addPath(const std::string &path)
             u"%1: The folder has no audio files"_s.arg(reference(path).displayPath()));
 }
 
+/// A file that cannot be examined is listed, so that working on it says why.
 void FileCollector::addFile(const HRFFileReference &file)
 {
     ++m_found;
-    if (m_seen.insert(file.nativePath()).second)
+    struct stat status = {};
+    const bool isKnown = ::stat(file.nativePath().constData(), &status) == 0;
+    if (!isKnown || m_seen.insert({status.st_dev, status.st_ino}).second)
         m_list.files.push_back(file);
 }
 
 void FileCollector::walk(const fs::path &folder)
 {
     for (const Entry &entry : sortedEntries(folder)) {
+        if (HRFInterruption::isRequested())
+            return;
         if (entry.isFolder)
             walk(entry.file.nativePath().toStdString());
         else

@@ -16,5 +16,6 @@ struct HRFFileList
 
 /// Takes files as given and walks folders recursively for files whose extension an engine claims,
 /// hidden ones too, each folder's entries in natural order. Links to folders are not followed below
-/// a given folder, so that a walk always ends. A file that is reached twice is taken once.
+/// a given folder, so that a walk always ends. A file that is reached twice, by whatever
+/// path, is taken once.
 HRFFileList HRFCollectFiles(const std::vector<std::string> &paths);

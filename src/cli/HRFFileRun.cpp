@@ -35,20 +35,21 @@ int HRFFileRun::forEachFile(const Work &work)
     bool hasFailed = !list.problems.empty();
     std::size_t finished = 0;
     for (const HRFFileReference &file : list.files) {
-        if (HRFInterruption::isRequested()) {
-            m_console.finish();
-            m_console.report(
-                u"Interrupted: %1 of %2 files are done"_s.arg(finished).arg(list.files.size()));
-            return HRFExitStatus::interrupted;
-        }
+        if (HRFInterruption::isRequested() || m_console.hasOutputFailed())
+            break;
         m_console.showProgress(finished, list.files.size());
         const Outcome outcome = runOne(file, work);
         hasFailed = hasFailed || outcome != Outcome::Done;
-        if (outcome == Outcome::Cancelled || m_console.hasOutputFailed())
+        if (outcome == Outcome::Cancelled)
             break;
         ++finished;
     }
     m_console.finish();
+    if (HRFInterruption::isRequested()) {
+        m_console.report(
+            u"Interrupted: %1 of %2 files are done"_s.arg(finished).arg(list.files.size()));
+        return HRFExitStatus::interrupted;
+    }
     return hasFailed || m_console.hasOutputFailed() ? HRFExitStatus::someFailed
                                                     : HRFExitStatus::done;
 }

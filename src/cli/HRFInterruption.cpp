@@ -14,8 +14,11 @@ static_assert(std::atomic<bool>::is_always_lock_free, "set in a signal handler")
 
 void handleSignals()
 {
+    // Without SA_RESTART: a question that waits for an answer ends, too.
+    struct sigaction action = {};
+    action.sa_handler = [](int) { requested = true; };
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        std::signal(signal, [](int) { requested = true; });
+        ::sigaction(signal, &action, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
 }
 

@@ -95,6 +95,8 @@ ParsedValue parseValue(const QString &text, HRFPropertyType type)
 std::expected<HRFTagChange, QString> parseAssignment(const std::string &assignment)
 {
     const QString whole = QString::fromStdString(assignment);
+    if (whole.toStdString() != assignment)
+        return std::unexpected(u"-t %1: The text is not valid UTF-8"_s.arg(whole));
     const qsizetype equals = whole.indexOf(u'=');
     if (equals < 1)
         return std::unexpected(u"-t %1: expected KEY=VALUE"_s.arg(whole));
@@ -125,6 +127,8 @@ std::expected<QByteArray, QString> readArtwork(const std::string &path)
         return std::unexpected(
             u"--artwork %1: %2"_s.arg(name, HRFError::fromErrno(errno).description));
     QByteArray data = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::unexpected(u"--artwork %1: %2"_s.arg(name, file.errorString()));
     if (!bitmapImageType(data) || !bitmapImageSize(data))
         return std::unexpected(u"--artwork %1: The file is no image"_s.arg(name));
     return data;

@@ -18,6 +18,7 @@ public:
 
     /// The path as the system calls take it.
     virtual const QByteArray &name() const = 0;
+    /// The size before the first write, until the last one is finished.
     virtual qint64 size() const = 0;
     /// Whether the process may write, as far as can be told without trying.
     virtual bool isWritable() const = 0;
@@ -30,6 +31,6 @@ public:
     /// noticed before anything is changed.
     [[nodiscard]] virtual HRFResult<void> prepareWriting(qint64 newSize) = 0;
     [[nodiscard]] virtual HRFResult<void> writeAt(qint64 offset, std::span<const char> data) = 0;
-    /// Called once after the last write with the final size.
+    /// Called once after the last write with the final size, which the store is given.
     [[nodiscard]] virtual HRFResult<void> finishWriting(qint64 newSize) = 0;
 };

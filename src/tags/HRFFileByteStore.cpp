@@ -17,6 +17,13 @@ HRFError changedMeanwhileError()
     return error;
 }
 
+HRFError notRegularError()
+{
+    HRFError error = HRFError::fromErrno(EINVAL);
+    error.description = QCoreApplication::translate("HRFFileByteStore", "It is not a regular file");
+    return error;
+}
+
 std::unexpected<HRFError> lastError()
 {
     return std::unexpected(HRFError::fromErrno(errno));
@@ -36,7 +43,7 @@ HRFResult<std::unique_ptr<HRFFileByteStore>> HRFFileByteStore::open(const HRFFil
     const HRFResult<Identity> identity = identityOf(descriptor);
     if (!isRegular || !identity) {
         ::close(descriptor);
-        return std::unexpected(HRFError::fromErrno(S_ISDIR(status.st_mode) ? EISDIR : EINVAL));
+        return std::unexpected(notRegularError());
     }
     return std::unique_ptr<HRFFileByteStore>(new HRFFileByteStore(path, descriptor, *identity));
 }
@@ -122,7 +129,7 @@ HRFResult<void> HRFFileByteStore::writeAt(qint64 offset, std::span<const char> d
 
 HRFResult<void> HRFFileByteStore::finishWriting(qint64 newSize)
 {
-    if (newSize < m_identity.size && ::ftruncate(m_writeDescriptor, newSize) != 0)
+    if (::ftruncate(m_writeDescriptor, newSize) != 0)
         return lastError();
     const HRFResult<Identity> identity = identityOf(m_writeDescriptor);
     if (!identity)

@@ -28,6 +28,7 @@ private:
     HRFResult<void> writePlaced(const std::vector<Placed> &placed);
     HRFResult<void> moveUndoably(const Placed &placed);
     HRFResult<void> overwriteUndoably(const Placed &placed);
+    HRFResult<void> keepAside(qint64 offset, qint64 length);
     HRFResult<void> move(qint64 from, qint64 to, qint64 length, qint64 &moved);
     HRFError undo(HRFError cause, qint64 oldSize);
 
@@ -68,22 +69,17 @@ HRFResult<void> PieceWriter::writePlaced(const std::vector<Placed> &placed)
     return result;
 }
 
-/// A move only overwrites bytes that it has copied before or that no piece needs, except that one
-/// towards the beginning overwrites what it makes superfluous: that is kept aside.
+/// A move overwrites its own source, which it has copied before, and bytes beside it, which no
+/// piece needs any more: those are kept aside.
 HRFResult<void> PieceWriter::moveUndoably(const Placed &placed)
 {
     const qint64 from = placed.piece->source;
     const qint64 to = placed.offset;
     const qint64 length = placed.piece->length;
-    if (to < from) {
-        QByteArray overwritten(std::min(from - to, length), Qt::Uninitialized);
-        const std::span<char> buffer(overwritten.data(), std::size_t(overwritten.size()));
-        if (m_store.readAt(to, buffer) != overwritten.size())
-            return std::unexpected(HRFError::fromErrno(EIO));
-        m_undoSteps.emplace_back([this, to, overwritten] {
-            return m_store.writeAt(to, {overwritten.constData(), std::size_t(overwritten.size())});
-        });
-    }
+    const qint64 besideStart = to < from ? to : std::max(to, from + length);
+    const qint64 besideEnd = to < from ? std::min(from, to + length) : to + length;
+    if (auto kept = keepAside(besideStart, besideEnd - besideStart); !kept)
+        return kept;
     qint64 moved = 0;
     const HRFResult<void> result = move(from, to, length, moved);
     m_undoSteps.emplace_back([this, from, to, length, moved] {
@@ -94,14 +90,25 @@ HRFResult<void> PieceWriter::moveUndoably(const Placed &placed)
     return result;
 }
 
+/// Makes the given range, as far as the old contents reach, be restored when a later step fails.
+HRFResult<void> PieceWriter::keepAside(qint64 offset, qint64 length)
+{
+    length = std::min(length, m_store.size() - offset);
+    if (length <= 0)
+        return {};
+    QByteArray kept(length, Qt::Uninitialized);
+    if (m_store.readAt(offset, {kept.data(), std::size_t(length)}) != length)
+        return std::unexpected(HRFError::fromErrno(EIO));
+    m_undoSteps.emplace_back([this, offset, kept] {
+        return m_store.writeAt(offset, {kept.constData(), std::size_t(kept.size())});
+    });
+    return {};
+}
+
 HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
 {
-    QByteArray overwritten(placed.piece->length, Qt::Uninitialized);
-    overwritten.truncate(
-        m_store.readAt(placed.offset, {overwritten.data(), std::size_t(overwritten.size())}));
-    m_undoSteps.emplace_back([this, offset = placed.offset, overwritten] {
-        return m_store.writeAt(offset, {overwritten.constData(), std::size_t(overwritten.size())});
-    });
+    if (auto kept = keepAside(placed.offset, placed.piece->length); !kept)
+        return kept;
     return m_store.writeAt(placed.offset,
                            {placed.piece->bytes.constData(), std::size_t(placed.piece->length)});
 }

@@ -61,6 +61,15 @@ bool hasContent(const QVariant &value)
     return !HRFTagValue::isNothing(value) && value != QVariant(0) && value != QVariant(false);
 }
 
+/// Whether what an engine holds is what was set. Ratings are cut off at their largest value, web
+/// addresses are percent-encoded.
+bool holds(const QVariant &held, const QVariant &value, HRFTagKey key)
+{
+    if (key == HRFTagKey::rating || key == HRFTagKey::website)
+        return hasContent(held);
+    return held == value;
+}
+
 QVariant channelModeName(const TagLib::AudioProperties &properties)
 {
     switch (properties.channels()) {
@@ -148,7 +157,7 @@ void HRFTagEngine::setValueForKey(const QVariant &value, HRFTagKey key)
     HRFRequire(HRFRowForKey(key).isTag, "isTag");
     const Lock guard = lock();
     writeValue(HRFTagValue::isNothing(value) ? QVariant() : value, key);
-    m_changedKeys.insert_or_assign(key, hasContent(value));
+    m_changes.insert_or_assign(key, value);
 }
 
 QVariant HRFTagEngine::readValue(HRFTagKey key) const
@@ -235,26 +244,25 @@ HRFError HRFTagEngine::saveError(const HRFError &cause) const
 
 HRFResult<void> HRFTagEngine::updateFile()
 {
-    std::vector<std::pair<HRFTagKey, QVariant>> values;
-    for (const auto &[key, wasSet] : m_changedKeys) {
-        values.emplace_back(key, readValue(key));
-        if (wasSet != hasContent(values.back().second))
+    std::map<HRFTagKey, QVariant> values;
+    for (const auto &[key, value] : m_changes) {
+        const QVariant held = values[key] = readValue(key);
+        if (hasContent(value) ? !holds(held, value, key) : hasContent(held))
             return std::unexpected(notKeptError(key));
     }
     if (auto saved = saveTags(); !saved)
         return saved;
-    if (auto kept = checkKeptValues(values); !kept)
-        return kept;
+    if (values.empty() && stream().isUnchanged())
+        return {};
+    if (auto checked = checkSavedFile(values); !checked)
+        return checked;
     return stream().commit();
 }
 
 /// Reads the tags that are about to be written and compares them with what was set: on damaged
 /// files TagLib can report success and keep nothing.
-HRFResult<void>
-HRFTagEngine::checkKeptValues(const std::vector<std::pair<HRFTagKey, QVariant>> &values) const
+HRFResult<void> HRFTagEngine::checkSavedFile(const std::map<HRFTagKey, QVariant> &values) const
 {
-    if (values.empty())
-        return {};
     const auto written = engineClass().initWithStream(m_stream, false);
     if (!written)
         return std::unexpected(reasonError(tr("The file would not be readable afterwards.")));

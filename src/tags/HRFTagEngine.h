@@ -100,19 +100,18 @@ protected:
     /// Saves into the stream, checks the result and writes the file.
     [[nodiscard]] HRFResult<void> updateFile();
     /// The values set so far need not be in the file any more: its tags are gone.
-    void forgetChanges() { m_changedKeys.clear(); }
+    void forgetChanges() { m_changes.clear(); }
     /// The error of a file that is not of the engine's format.
     HRFError contentsError() const;
     /// An error that only says why.
     static HRFError reasonError(const QString &reason);
 
 private:
-    HRFResult<void>
-    checkKeptValues(const std::vector<std::pair<HRFTagKey, QVariant>> &values) const;
+    HRFResult<void> checkSavedFile(const std::map<HRFTagKey, QVariant> &values) const;
     HRFError saveError(const HRFError &cause) const;
 
     mutable std::recursive_mutex m_lock; ///< guards the tags and everything below
     std::shared_ptr<HRFTagStream> m_stream;
     HRFFileReference m_fileURL;
-    std::map<HRFTagKey, bool> m_changedKeys; ///< whether a value was set, or removed
+    std::map<HRFTagKey, QVariant> m_changes; ///< the values set since the file was opened
 };

@@ -158,12 +158,16 @@ std::size_t HRFTagStream::splitAt(qint64 offset)
     return cursor.index + 1;
 }
 
+bool HRFTagStream::isUnchanged() const
+{
+    if (m_length != m_store->size())
+        return false;
+    return m_pieces.empty() || (m_pieces.size() == 1 && !m_pieces[0].isNew);
+}
+
 HRFResult<void> HRFTagStream::commit()
 {
-    const bool isUnchanged = m_pieces.empty()
-        ? m_store->size() == 0
-        : m_pieces.size() == 1 && !m_pieces[0].isNew && m_length == m_store->size();
-    if (isUnchanged)
+    if (isUnchanged())
         return {};
     if (m_hasReadFailed)
         return std::unexpected(HRFError::fromErrno(EIO));

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] HRFResult<void> commit();
     /// Forgets the changes.
     void discard();
+    /// Whether there is nothing to commit.
+    bool isUnchanged() const;
     /// Whether bytes could not be read, so that what was read is not what the file holds.
     bool hasReadFailed() const { return m_hasReadFailed; }
 
