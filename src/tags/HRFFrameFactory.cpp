@@ -1,9 +1,13 @@
 #include "tags/HRFFrameFactory.h"
 
+#include "tags/ID3FrameRepair.h"
+
 #include <QCoreApplication>
+#include <taglib/id3v2synchdata.h>
 #include <taglib/id3v2tag.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -11,10 +15,29 @@ using namespace TagLib;
 
 namespace {
 
-/// TagLib folds these into the recording time and makes them anew for ID3v2.3.
-bool isFoldedIntoRecordingTime(const ByteVector &frameID)
+QString tr(const char *text)
 {
-    return frameID == "TDAT" || frameID == "TIME";
+    return QCoreApplication::translate("HRFFrameFactory", text);
+}
+
+struct Renaming
+{
+    const char *version2;
+    const char *version3;
+};
+
+/// Frames of ID3v2.2 that TagLib does not rename, since ID3v2.4 does not have them (ID3v2.2.0 §4).
+constexpr Renaming renamings[] = {
+    {"TDA", "TDAT"}, {"TIM", "TIME"}, {"TSI", "TSIZ"}, {"RVA", "RVAD"}, {"EQU", "EQUA"},
+};
+
+void renameVersion2Frame(ID3v2::Frame &frame)
+{
+    const ByteVector id = frame.frameID();
+    const auto *renaming = std::ranges::find_if(
+        renamings, [&id](const Renaming &candidate) { return id == candidate.version2; });
+    if (renaming != std::end(renamings))
+        frame.header()->setFrameID(renaming->version3);
 }
 
 /// Whether a frame with a well-formed identifier but without content begins here.
@@ -29,39 +52,73 @@ bool beginsWithEmptyFrame(const ByteVector &data, unsigned int version)
            });
 }
 
+/// TagLib folds day and time into the recording time, and makes them anew for ID3v2.3.
+void removeFoldedFrames(ID3v2::Tag &tag)
+{
+    constexpr unsigned int dateLength = 10;
+    constexpr unsigned int dateTimeLength = 16;
+    const ID3v2::FrameList &times = std::as_const(tag).frameList("TDRC");
+    const unsigned int length = times.isEmpty() ? 0 : times.front()->toString().size();
+    if (length >= dateLength)
+        tag.removeFrames("TDAT");
+    if (length >= dateTimeLength)
+        tag.removeFrames("TIME");
+}
+
 } // namespace
 
 ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
                                            const ID3v2::Header *tagHeader) const
 {
-    ID3v2::Frame *frame = FrameFactory::createFrame(data, tagHeader);
+    const unsigned int version = tagHeader->majorVersion();
+    const ByteVector repaired = ID3RepairedFrame(data, version);
+    ID3v2::Frame *frame = FrameFactory::createFrame(repaired, tagHeader);
     if (!frame) {
         m_unparsed = data;
         return nullptr;
     }
+    // The parser goes on behind as many bytes as the frame says it has.
+    if (repaired.size() != data.size())
+        frame->header()->setFrameSize(ID3v2::Frame::Header(data, version).frameSize());
     if (frame->header()->encryption())
-        m_obstacle =
-            QCoreApplication::translate("HRFFrameFactory", "Its ID3v2 tag has encrypted frames.");
-    if (!isFoldedIntoRecordingTime(frame->frameID()))
-        frame->header()->setTagAlterPreservation(false);
+        m_obstacle = tr("Its ID3v2 tag has encrypted frames.");
+    renameVersion2Frame(*frame);
+    if (frame->frameID().size() < 4)
+        m_obstacle = tr("Its ID3v2.2 tag has frames that later versions lack.");
+    frame->header()->setTagAlterPreservation(false);
     return frame;
 }
 
 void HRFFrameFactory::completeTag(ID3v2::Tag &tag) const
 {
+    parseFrames(tag, std::exchange(m_unparsed, {}));
+    removeFoldedFrames(tag);
+}
+
+void HRFFrameFactory::parseBehindExtendedHeader(ID3v2::Tag &tag, const ByteVector &body) const
+{
+    while (!tag.frameList().isEmpty())
+        tag.removeFrame(tag.frameList().front());
+    m_unparsed.clear();
+    m_obstacle.clear();
+    const ByteVector data =
+        tag.header()->unsynchronisation() ? ID3v2::SynchData::decode(body) : body;
+    parseFrames(tag, data.mid(4 + data.toUInt(0U)));
+    rebuildAggregateFrames(&tag);
+}
+
+void HRFFrameFactory::parseFrames(ID3v2::Tag &tag, ByteVector rest) const
+{
     const unsigned int version = tag.header()->majorVersion();
     const unsigned int headerSize = ID3v2::Frame::Header(ByteVector(), version).size();
-    for (ByteVector rest = std::exchange(m_unparsed, {}); rest.size() > headerSize;) {
-        if (rest[0] == '\0')
-            return;
+    while (rest.size() > headerSize && rest[0] != '\0') {
         if (beginsWithEmptyFrame(rest, version)) {
             rest = rest.mid(headerSize);
             continue;
         }
         std::unique_ptr<ID3v2::Frame> frame(createFrame(rest, tag.header()));
         if (!frame) {
-            m_obstacle = QCoreApplication::translate(
-                "HRFFrameFactory", "Its ID3v2 tag is damaged; a part of it would be lost.");
+            m_obstacle = tr("Its ID3v2 tag is damaged; a part of it would be lost.");
             return;
         }
         rest = rest.mid(headerSize + ID3v2::Frame::Header(rest, version).frameSize());

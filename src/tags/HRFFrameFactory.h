@@ -21,11 +21,19 @@ public:
     /// Goes on behind empty frames (against ID3v2.4.0 structure §4, but found in the field), where
     /// TagLib stops parsing. To be called once the tag is read.
     void completeTag(TagLib::ID3v2::Tag &tag) const;
+    /// Parses an ID3v2.3 tag with an extended header anew: TagLib takes the size of that header for
+    /// one of ID3v2.4 (ID3v2.3.0 §3.2).
+    ///
+    /// @param body what follows the tag's header
+    void parseBehindExtendedHeader(TagLib::ID3v2::Tag &tag, const TagLib::ByteVector &body) const;
 
     /// Why saving the tag would lose a part of it; empty when it would not.
     const QString &obstacle() const { return m_obstacle; }
+    void setObstacle(const QString &obstacle) const { m_obstacle = obstacle; }
 
 private:
+    void parseFrames(TagLib::ID3v2::Tag &tag, TagLib::ByteVector rest) const;
+
     mutable TagLib::ByteVector m_unparsed; ///< what follows the last frame that could be parsed
     mutable QString m_obstacle;
 };

@@ -22,6 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using K = HRFTagKey;
+
 /// The first frame of the key's identifier when it is of type Frame.
 template <class Frame> Frame *firstFrame(const ID3MetaData &engine, HRFTagKey key)
 {
@@ -119,6 +121,7 @@ void writeYear(ID3MetaData &engine, HRFTagKey, const QVariant &value)
 {
     if (!engine.ID3V2Tag())
         return;
+    engine.setStringForUserTextIdentificationFrame({}, HRFTagEngine::APEFrameForKey(K::year));
     engine.ID3V2Tag()->setYear(static_cast<unsigned int>(value.toLongLong()));
     applyDefaultEncoding(engine, "TDRC");
 }
@@ -274,8 +277,6 @@ constexpr HRFFieldHandler<ID3MetaData> numberHandler{Number, readNumber<Number>,
 template <HRFTagKey Number, HRFTagKey Total>
 constexpr HRFFieldHandler<ID3MetaData> totalHandler{Total, readTotal<Number>,
                                                     writeTotal<Number, Total>};
-
-using K = HRFTagKey;
 
 constexpr HRFFieldHandler<ID3MetaData> handlers[] = {
     {K::website, readWebsite, writeWebsite},

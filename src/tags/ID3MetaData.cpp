@@ -21,6 +21,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ID3MetaData", text);
+}
+
 QString versionPreference()
 {
     return HRFUserDefaults::standard()
@@ -194,10 +199,26 @@ HRFResult<void> ID3MetaData::checkFile()
     if (!tag || tag->header()->tagSize() == 0)
         return {};
     if (qint64(tag->header()->completeTagSize()) > stream().length())
-        return std::unexpected(
-            reasonError(QCoreApplication::translate("ID3MetaData", "Its ID3v2 tag is cut off")));
+        return std::unexpected(reasonError(tr("Its ID3v2 tag is cut off")));
+    if (tag->header()->extendedHeader() && tag->header()->majorVersion() == 3)
+        readBehindExtendedHeader(*tag);
     m_frameFactory.completeTag(*tag);
     return {};
+}
+
+void ID3MetaData::readBehindExtendedHeader(ID3v2::Tag &tag)
+{
+    const qint64 offset = ID3V2TagOffset();
+    if (offset < 0)
+        return m_frameFactory.setObstacle(tr("Its ID3v2.3 tag has an extended header."));
+    stream().seek(offset + ID3v2::Header::size(), IOStream::Beginning);
+    m_frameFactory.parseBehindExtendedHeader(tag, stream().readBlock(tag.header()->tagSize()));
+}
+
+qint64 ID3MetaData::ID3V2TagOffset() const
+{
+    stream().seek(0, IOStream::Beginning);
+    return stream().readBlock(3) == ID3v2::Header::fileIdentifier() ? 0 : -1;
 }
 
 HRFResult<void> ID3MetaData::prepareSaving(int version)
@@ -207,8 +228,11 @@ HRFResult<void> ID3MetaData::prepareSaving(int version)
         return {};
     if (!m_frameFactory.obstacle().isEmpty())
         return std::unexpected(reasonError(m_frameFactory.obstacle()));
-    if (version == 3)
-        ID3Version3::prepare(*tag);
+    if (version != 3)
+        return {};
+    if (ID3Version3::hasFramesToHide(*tag) && ID3V2TagOffset() < 0)
+        return std::unexpected(reasonError(tr("Its tag has frames that ID3v2.3 lacks.")));
+    ID3Version3::prepare(*tag);
     return {};
 }
 

@@ -68,6 +68,11 @@ protected:
     /// Saves a file whose format always has ID3v2.4 tags.
     [[nodiscard]] HRFResult<void> saveAsVersion4(TagLib::File &file);
 
+    /// Where the tag begins in the file; -1 when that cannot be told.
+    virtual qint64 ID3V2TagOffset() const;
+
 private:
+    void readBehindExtendedHeader(TagLib::ID3v2::Tag &tag);
+
     HRFFrameFactory m_frameFactory;
 };

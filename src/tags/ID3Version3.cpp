@@ -1,12 +1,18 @@
 #include "tags/ID3Version3.h"
 
 #include "tags/HRFTagEngine.h"
+#include "tags/HRFTagStream.h"
 
+#include <taglib/id3v2synchdata.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/textidentificationframe.h>
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <memory>
+#include <string>
+#include <utility>
 
 using namespace TagLib;
 
@@ -31,15 +37,56 @@ ID3v2::TextIdentificationFrame *firstTextFrame(const ID3v2::Tag &tag, const char
 void moveToUserText(ID3v2::Tag &tag, HRFTagKey key)
 {
     const char *frameID = HRFTagEngine::ID3FrameForKey(key);
-    const auto *frame = firstTextFrame(tag, frameID);
-    if (!frame)
+    const ID3v2::FrameList frames = std::as_const(tag).frameList(frameID);
+    if (frames.isEmpty())
         return;
+    StringList texts;
+    for (const ID3v2::Frame *frame : frames)
+        texts.append(frame->toString());
     const String description(HRFTagEngine::APEFrameForKey(key));
     if (auto *old = ID3v2::UserTextIdentificationFrame::find(&tag, description))
         tag.removeFrame(old);
-    tag.addFrame(new ID3v2::UserTextIdentificationFrame(description, frame->toString(),
-                                                        frame->textEncoding()));
+    auto userText =
+        std::make_unique<ID3v2::UserTextIdentificationFrame>(description, texts, String::UTF8);
+    tag.addFrame(userText.release());
     tag.removeFrames(frameID);
+}
+
+/// ID3v2.3 has a four-digit year, and day and time to the minute; a time that is none of these
+/// stays whole in a user text frame.
+void keepRecordingTime(ID3v2::Tag &tag)
+{
+    auto *frame = firstTextFrame(tag, "TDRC");
+    if (!frame)
+        return;
+    const String text = frame->toString();
+    constexpr unsigned int yearLength = 4;
+    constexpr std::array<unsigned int, 3> exactLengths = {4, 10, 16};
+    if (text.size() < yearLength) {
+        frame->setText(String(std::string(yearLength - text.size(), '0')) + text);
+    } else if (std::ranges::find(exactLengths, text.size()) == exactLengths.end()) {
+        const String description(HRFTagEngine::APEFrameForKey(HRFTagKey::year));
+        if (!ID3v2::UserTextIdentificationFrame::find(&tag, description))
+            tag.addFrame(new ID3v2::UserTextIdentificationFrame(description, text, String::UTF8));
+    }
+}
+
+/// Binary frames that TagLib does not write into ID3v2.3 tags. Under another identifier it does.
+struct HiddenFrame
+{
+    const char *frameID;
+    const char *hidden;
+};
+
+constexpr HiddenFrame hiddenFrames[] = {
+    {"RVA2", "rva2"}, {"EQU2", "equ2"}, {"SEEK", "seek"}, {"SIGN", "sign"}, {"ASPI", "aspi"},
+};
+
+void hideFrames(ID3v2::Tag &tag)
+{
+    for (const HiddenFrame &names : hiddenFrames)
+        for (ID3v2::Frame *frame : std::as_const(tag).frameList(names.frameID))
+            frame->header()->setFrameID(names.hidden);
 }
 
 /// Makes the ID3v2.3 frame the only one of a pair, with all its words. TagLib would make another
@@ -73,6 +120,13 @@ bool isKeptAsUserText(HRFTagKey key)
     return std::ranges::find(userTextKeys, key) != std::end(userTextKeys);
 }
 
+bool hasFramesToHide(const ID3v2::Tag &tag)
+{
+    return std::ranges::any_of(hiddenFrames, [&tag](const HiddenFrame &names) {
+        return !tag.frameList(names.frameID).isEmpty();
+    });
+}
+
 void prepare(ID3v2::Tag &tag)
 {
     for (const HRFTagKey key : userTextKeys)
@@ -80,6 +134,30 @@ void prepare(ID3v2::Tag &tag)
     moveToVersion3Frame(tag, HRFTagKey::originalReleaseDate);
     moveToVersion3Frame(tag, HRFTagKey::involvedPeopleList);
     joinGenres(tag);
+    keepRecordingTime(tag);
+    hideFrames(tag);
+}
+
+void revealFrames(HRFTagStream &stream, qint64 tagOffset)
+{
+    constexpr unsigned int headerSize = 10;
+    stream.seek(tagOffset, IOStream::Beginning);
+    const ByteVector header = stream.readBlock(headerSize);
+    const qint64 end = tagOffset + headerSize + ID3v2::SynchData::toUInt(header.mid(6, 4));
+    for (qint64 offset = tagOffset + headerSize; offset + headerSize < end;) {
+        stream.seek(offset, IOStream::Beginning);
+        const ByteVector frame = stream.readBlock(headerSize);
+        if (frame.size() < headerSize || frame[0] == '\0')
+            return;
+        const ByteVector id = frame.mid(0, 4);
+        const auto *names = std::ranges::find_if(
+            hiddenFrames, [&id](const HiddenFrame &candidate) { return id == candidate.hidden; });
+        if (names != std::end(hiddenFrames)) {
+            stream.seek(offset, IOStream::Beginning);
+            stream.writeBlock(ByteVector(names->frameID, 4));
+        }
+        offset += headerSize + frame.toUInt(4U);
+    }
 }
 
 } // namespace ID3Version3

@@ -2,6 +2,8 @@
 
 #include "tags/HRFTagKey.h"
 
+class HRFTagStream;
+
 namespace TagLib::ID3v2 {
 class Tag;
 }
@@ -13,7 +15,16 @@ namespace ID3Version3 {
 /// described by the property's APE item key.
 bool isKeptAsUserText(HRFTagKey key);
 
-/// Replaces every frame that TagLib would drop or change the words of.
+/// Whether the tag has binary frames that only ID3v2.4 has.
+bool hasFramesToHide(const TagLib::ID3v2::Tag &tag);
+
+/// Replaces every frame that TagLib would drop or change the words of. Binary frames are only
+/// hidden from TagLib: see revealFrames.
 void prepare(TagLib::ID3v2::Tag &tag);
+
+/// Gives hidden frames of a saved tag their identifiers back.
+///
+/// @param tagOffset where the tag begins in the stream
+void revealFrames(HRFTagStream &stream, qint64 tagOffset);
 
 } // namespace ID3Version3

@@ -2,10 +2,13 @@
 
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFTagStream.h"
+#include "tags/ID3Version3.h"
+#include "tags/MPEGCheck.h"
 
 #include <QCoreApplication>
 #include <taglib/apetag.h>
 #include <taglib/id3v1tag.h>
+#include <taglib/id3v2header.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/mpegproperties.h>
 #include <taglib/xingheader.h>
@@ -73,13 +76,42 @@ MPEGMetaData::MPEGMetaData(std::shared_ptr<HRFTagStream> file, bool readProperti
 {
 }
 
-/// TagLib takes any bytes for an MPEG file.
+/// TagLib takes any bytes for an MPEG file, and finds an ID3v2 tag also in the middle of them.
 HRFResult<void> MPEGMetaData::checkFile()
 {
-    if (!m_tagFile->hasID3v2Tag() && !m_tagFile->hasID3v1Tag() && !m_tagFile->hasAPETag()
-        && m_tagFile->firstFrameOffset() < 0)
+    const bool hasTag = m_tagFile->hasID3v1Tag() || m_tagFile->hasAPETag()
+        || (m_tagFile->hasID3v2Tag() && ID3V2TagOffset() == 0);
+    if (!hasTag && !MPEGHasAudio(*m_tagFile))
         return std::unexpected(contentsError());
-    return APEUnionMetaData::checkFile();
+    if (auto checked = APEUnionMetaData::checkFile(); !checked)
+        return checked;
+    if (m_tagFile->hasID3v2Tag() && ID3V2TagOffset() == 0)
+        takeOverSecondTag();
+    return {};
+}
+
+/// TagLib takes a second ID3v2 tag behind the first for padding. Its frames that the first tag
+/// lacks are taken over; there may be more such tags.
+void MPEGMetaData::takeOverSecondTag()
+{
+    ID3v2::Tag *first = m_tagFile->ID3v2Tag();
+    const offset_t end = offset_t(first->header()->completeTagSize());
+    stream().seek(0, IOStream::Beginning);
+    offset_t offset = ID3v2::Header(stream().readBlock(ID3v2::Header::size())).completeTagSize();
+    while (offset < end) {
+        ID3v2::Tag second(m_tagFile.get(), offset, frameFactory());
+        stream().seek(offset, IOStream::Beginning);
+        const unsigned int size =
+            ID3v2::Header(stream().readBlock(ID3v2::Header::size())).completeTagSize();
+        const ID3v2::FrameListMap known = first->frameListMap();
+        for (ID3v2::Frame *frame : ID3v2::FrameList(second.frameList())) {
+            if (known.contains(frame->frameID()))
+                continue;
+            second.removeFrame(frame, false);
+            first->addFrame(frame);
+        }
+        offset += size;
+    }
 }
 
 ID3v2::Tag *MPEGMetaData::ID3V2Tag() const
@@ -112,6 +144,8 @@ HRFResult<void> MPEGMetaData::saveTags()
     const auto version = preferredID3v2Version() == 3 ? ID3v2::v3 : ID3v2::v4;
     if (!m_tagFile->save(m_saveTagTypes, File::StripOthers, version, File::DoNotDuplicate))
         return std::unexpected(HRFError::fromErrno(EIO));
+    if (version == ID3v2::v3 && ID3V2TagOffset() == 0)
+        ID3Version3::revealFrames(stream(), 0);
     return {};
 }
 

@@ -28,6 +28,7 @@ protected:
 
 private:
     bool mayCreateTag(int type) const;
+    void takeOverSecondTag();
 
     const int m_saveTagTypes; ///< the types that are switched on: they are created and saved
     std::unique_ptr<TagLib::MPEG::File> m_tagFile;

@@ -1,0 +1,163 @@
+#include "tags/ID3FrameRepair.h"
+
+#include <QStringDecoder>
+#include <taglib/id3v2synchdata.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+using namespace TagLib;
+
+namespace {
+
+constexpr unsigned int headerSize = 10;
+constexpr unsigned int sizeOffset = 4;
+constexpr unsigned int formatFlagsOffset = 9;
+
+enum TextEncoding : char { Latin1 = 0, UTF16 = 1, UTF8 = 3 };
+
+std::string_view frameID(const ByteVector &data)
+{
+    return {data.data(), 4};
+}
+
+unsigned int frameSize(const ByteVector &data, unsigned int version)
+{
+    return version == 4 ? ID3v2::SynchData::toUInt(data.mid(sizeOffset, 4))
+                        : data.toUInt(sizeOffset);
+}
+
+ByteVector withFrameSize(ByteVector frame, unsigned int version)
+{
+    const unsigned int size = frame.size() - headerSize;
+    const ByteVector bytes =
+        version == 4 ? ID3v2::SynchData::fromUInt(size) : ByteVector::fromUInt(size);
+    std::copy(bytes.begin(), bytes.end(), frame.begin() + sizeOffset);
+    return frame;
+}
+
+/// Where the byte of the frame's group stands; 0 when there is none.
+unsigned int groupByteOffset(const ByteVector &data, unsigned int version)
+{
+    const auto flags = static_cast<unsigned char>(data[formatFlagsOffset]);
+    if (version == 4)
+        return (flags & 0x40) != 0 ? headerSize : 0;
+    if ((flags & 0x20) == 0)
+        return 0;
+    return headerSize + ((flags & 0x80) != 0 ? 4 : 0) + ((flags & 0x40) != 0 ? 1 : 0);
+}
+
+ByteVector withoutGroupByte(const ByteVector &frame, unsigned int offset, unsigned int version)
+{
+    ByteVector result = frame.mid(0, offset);
+    result.append(frame.mid(offset + 1));
+    const char groupFlag = version == 4 ? 0x40 : 0x20;
+    result[formatFlagsOffset] = static_cast<char>(result[formatFlagsOffset] & ~groupFlag);
+    return withFrameSize(result, version);
+}
+
+/// Frames whose content is an encoding byte and texts, and nothing else.
+bool isText(std::string_view id)
+{
+    constexpr std::array others = {"WFED", "MVNM", "MVIN", "GRP1"};
+    return id.starts_with('T') || std::ranges::find(others, id) != others.end();
+}
+
+/// The same with a language between the two.
+bool isTextWithLanguage(std::string_view id)
+{
+    return id == "COMM" || id == "USLT";
+}
+
+bool isValidUTF8(const ByteVector &text)
+{
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    const QString decoded = decoder(QByteArrayView(text.data(), qsizetype(text.size())));
+    return !decoder.hasError() && !decoded.contains(QChar::ReplacementCharacter);
+}
+
+/// The mark for text without one: little endian, unless the text looks like the other.
+ByteVector byteOrderMark(const ByteVector &text)
+{
+    const bool isBigEndian = text[0] == '\0' && text[1] != '\0';
+    return {isBigEndian ? "\xFE\xFF" : "\xFF\xFE", 2};
+}
+
+bool hasByteOrderMark(const ByteVector &text)
+{
+    return text.startsWith(ByteVector("\xFF\xFE", 2)) || text.startsWith(ByteVector("\xFE\xFF", 2));
+}
+
+ByteVector withByteOrderMark(const ByteVector &frame, unsigned int offset, unsigned int version)
+{
+    const ByteVector text = frame.mid(offset);
+    if (text.size() < 2 || hasByteOrderMark(text))
+        return frame;
+    ByteVector result = frame.mid(0, offset);
+    result.append(byteOrderMark(text));
+    result.append(text);
+    return withFrameSize(result, version);
+}
+
+/// Where the text behind a UTF-16 description begins.
+unsigned int offsetBehindDescription(const ByteVector &frame, unsigned int description)
+{
+    for (unsigned int offset = description; offset + 1 < frame.size(); offset += 2)
+        if (frame[offset] == '\0' && frame[offset + 1] == '\0')
+            return offset + 2;
+    return frame.size();
+}
+
+ByteVector withEncodingByte(const ByteVector &frame, unsigned int version)
+{
+    ByteVector result = frame.mid(0, headerSize);
+    result.append(static_cast<char>(Latin1));
+    result.append(frame.mid(headerSize));
+    return withFrameSize(result, version);
+}
+
+ByteVector withReadableText(const ByteVector &frame, unsigned int version)
+{
+    constexpr unsigned int languageSize = 3;
+    const bool hasLanguage = isTextWithLanguage(frameID(frame));
+    const unsigned int text = headerSize + 1 + (hasLanguage ? languageSize : 0);
+    const char encoding = frame[headerSize];
+    if (encoding < Latin1 || encoding > UTF8) {
+        if (encoding >= ' ' && !hasLanguage)
+            return withEncodingByte(frame, version);
+    } else if (encoding == UTF16) {
+        const ByteVector marked = withByteOrderMark(frame, text, version);
+        return hasLanguage
+            ? withByteOrderMark(marked, offsetBehindDescription(marked, text), version)
+            : marked;
+    } else if (encoding != UTF8 || isValidUTF8(frame.mid(text))) {
+        return frame;
+    }
+    ByteVector result = frame;
+    result[headerSize] = Latin1;
+    return result;
+}
+
+} // namespace
+
+ByteVector ID3RepairedFrame(const ByteVector &data, unsigned int version)
+{
+    if (version < 3 || data.size() <= headerSize)
+        return data;
+    const unsigned int size = frameSize(data, version);
+    if (size == 0 || size > data.size() - headerSize)
+        return data;
+    const bool hasText = isText(frameID(data)) || isTextWithLanguage(frameID(data));
+    const unsigned int groupOffset = groupByteOffset(data, version);
+    if (!hasText && groupOffset == 0)
+        return data;
+
+    ByteVector frame = data.mid(0, headerSize + size);
+    if (groupOffset != 0 && groupOffset < frame.size())
+        frame = withoutGroupByte(frame, groupOffset, version);
+    // What is compressed, encrypted or unsynchronised is left to TagLib.
+    if (!hasText || frame[formatFlagsOffset] != '\0' || frame.size() <= headerSize)
+        return frame;
+    return withReadableText(frame, version);
+}
