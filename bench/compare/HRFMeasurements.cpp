@@ -1,0 +1,123 @@
+#include "compare/HRFMeasurements.h"
+
+#include "compare/HRFProcess.h"
+#include "compare/HRFResultTable.h"
+#include "sides/HRFBenchSide.h"
+#include "sides/HRFFilesBelow.h"
+
+#include <algorithm>
+#include <span>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Files = std::vector<fs::path>;
+
+constexpr int roundCount = 5;
+
+/// Files are read and written in parts of this size, between which the sides take turns.
+constexpr std::size_t filesPerPart = 250;
+
+std::size_t partCountOf(const Files &files)
+{
+    return (files.size() + filesPerPart - 1) / filesPerPart;
+}
+
+std::span<const fs::path> partOf(const Files &files, std::size_t part)
+{
+    const std::size_t begin = part * filesPerPart;
+    return std::span(files).subspan(begin, std::min(filesPerPart, files.size() - begin));
+}
+
+void measureReading(const HRFMeasuringPlace &place)
+{
+    const Files files = HRFFilesBelow(place.corpus);
+    const auto reader = [&files](const HRFBenchSide &side) {
+        return [&files, &side](std::size_t part) {
+            for (const fs::path &file : partOf(files, part))
+                side.read(file);
+        };
+    };
+    const HRFContest contest{.lirra = reader(HRFEngineSide),
+                             .plain = reader(HRFPlainTagLibSide),
+                             .partCount = partCountOf(files)};
+    HRFResultTable::printRatio("read all properties and the picture",
+                               HRFCompare(contest, roundCount), 1.3);
+}
+
+void measureShowing(const HRFMeasuringPlace &place)
+{
+    const std::string show = place.programs / "lirra-cli";
+    const std::string read = place.programs / "bench_taglib_read";
+    const HRFContest contest{
+        .lirra = [&](std::size_t) { HRFRunProcess({show, "show", "--json", place.corpus}); },
+        .plain = [&](std::size_t) { HRFRunProcess({read, place.corpus}); },
+        .costOf = HRFCostOf::ChildProcesses};
+    HRFResultTable::printRatio("lirra-cli show --json, whole process",
+                               HRFCompare(contest, roundCount), 1.6);
+}
+
+/// Copies the first files of the corpus.
+Files copyFiles(const HRFMeasuringPlace &place, std::size_t count)
+{
+    Files copies;
+    for (const fs::path &file : HRFFilesBelow(place.corpus)) {
+        if (copies.size() == count)
+            break;
+        copies.push_back(place.scratch / fs::relative(file, place.corpus));
+        fs::create_directories(copies.back().parent_path());
+        fs::copy_file(file, copies.back());
+    }
+    return copies;
+}
+
+/// A title of always the same length that no call has answered before.
+std::string nextTitle()
+{
+    static int number = 1'000'000;
+    return "Title number " + std::to_string(++number);
+}
+
+void measureWriting(const HRFMeasuringPlace &place)
+{
+    constexpr std::size_t fileCount = 2000;
+    const Files files = copyFiles(place, fileCount);
+    const auto writer = [&files](const HRFBenchSide &side) {
+        return [&files, &side](std::size_t part) {
+            const std::string title = nextTitle();
+            for (const fs::path &file : partOf(files, part))
+                side.writeTitle(file, title);
+        };
+    };
+    // Neither side shall wait for the disk to take what the other one has written.
+    const HRFContest contest{.lirra = writer(HRFEngineSide),
+                             .plain = writer(HRFPlainTagLibSide),
+                             .partCount = partCountOf(files),
+                             .prepare = ::sync};
+    HRFResultTable::printRatio("write the title", HRFCompare(contest, roundCount), 1.2);
+}
+
+void measureStart(const HRFMeasuringPlace &place)
+{
+    constexpr int runCount = 20;
+    const std::string file = HRFFilesBelow(place.corpus).front();
+    const HRFContest contest{
+        .lirra = [&](std::size_t) { HRFRunProcess({place.programs / "lirra-cli", "show", file}); },
+        .plain = [](std::size_t) {},
+        .costOf = HRFCostOf::ChildProcesses};
+    HRFResultTable::printMilliseconds("start lirra-cli show on one file",
+                                      HRFCompare(contest, runCount).lirra, 40);
+}
+
+} // namespace
+
+void HRFMeasureAll(const HRFMeasuringPlace &place)
+{
+    HRFResultTable::printHead();
+    for (const auto measure : {measureReading, measureShowing, measureWriting, measureStart})
+        measure(place);
+}

@@ -1,0 +1,6 @@
+#include "sides/HRFReadFolder.h"
+
+int main(int argc, char **argv)
+{
+    return HRFReadFolder(argc, argv, HRFPlainTagLibSide);
+}
