@@ -44,14 +44,6 @@ void HRFFormatFile::setBytes(const QByteArray &bytes) const
         throw std::runtime_error("the copy cannot be written");
 }
 
-void HRFFormatFile::patch(const QByteArray &before, const QByteArray &after) const
-{
-    QByteArray contents = bytes();
-    if (!contents.contains(before) || before.size() != after.size())
-        throw std::runtime_error("nothing to patch");
-    setBytes(contents.replace(before, after));
-}
-
 HRFResult<std::unique_ptr<HRFTagEngine>> HRFFormatFile::tryOpen(bool readProperties) const
 {
     return HRFTagEngine::initWithURL(HRFFileReference::fromNativePath(m_path), readProperties);

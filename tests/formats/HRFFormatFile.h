@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <vector>
 
 using HRFTagValues = std::vector<std::pair<HRFTagKey, QVariant>>;
@@ -22,17 +21,10 @@ public:
     QByteArray path() const { return m_path; }
     QByteArray bytes() const;
     void setBytes(const QByteArray &bytes) const;
-    /// Overwrites every occurrence by other bytes of the same length.
-    void patch(const QByteArray &before, const QByteArray &after) const;
 
     HRFResult<std::unique_ptr<HRFTagEngine>> tryOpen(bool readProperties = false) const;
     /// Throws when the file does not open.
     std::unique_ptr<HRFTagEngine> open(bool readProperties = false) const;
-    /// An engine that must be of the given class.
-    template <class Engine> std::unique_ptr<Engine> openAs() const
-    {
-        return std::unique_ptr<Engine>(&dynamic_cast<Engine &>(*open().release()));
-    }
 
     /// Sets the values with one engine and saves.
     HRFResult<void> trySet(const HRFTagValues &values) const;

@@ -11,21 +11,13 @@ void demand(bool condition, const char *what)
         throw std::runtime_error(what);
 }
 
-qint64 bigEndian(const QByteArray &bytes, qint64 at, int count)
+qint64 number(const QByteArray &bytes, qint64 at, int count, bool isBigEndian)
 {
     demand(at >= 0 && at + count <= bytes.size(), "a number behind the end");
     quint64 value = 0;
     for (int i = 0; i < count; ++i)
-        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
-    return qint64(value);
-}
-
-qint64 littleEndian(const QByteArray &bytes, qint64 at, int count)
-{
-    demand(at >= 0 && at + count <= bytes.size(), "a number behind the end");
-    quint64 value = 0;
-    for (int i = count - 1; i >= 0; --i)
-        value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+        value =
+            value << 8 | static_cast<unsigned char>(bytes[at + (isBigEndian ? i : count - 1 - i)]);
     return qint64(value);
 }
 
@@ -45,7 +37,7 @@ QByteArray mpegSound(QByteArray file)
     if (file.size() >= 128 && file.last(128).startsWith("TAG"))
         file.chop(128);
     if (file.size() >= 32 && file.last(32).startsWith("APETAGEX"))
-        file.chop(littleEndian(file, file.size() - 20, 4) + 32);
+        file.chop(number(file, file.size() - 20, 4, false) + 32);
     return file;
 }
 
@@ -56,7 +48,7 @@ QByteArray flacSound(const QByteArray &file)
     QByteArray sound;
     bool isLast = false;
     for (at += 4; !isLast;) {
-        const auto header = bigEndian(file, at, 4);
+        const auto header = number(file, at, 4, true);
         isLast = (header >> 31) != 0;
         const qint64 size = header & 0xFFFFFF;
         if ((header >> 24 & 0x7F) == 0)
@@ -67,13 +59,14 @@ QByteArray flacSound(const QByteArray &file)
 }
 
 /// Chunks other than tags, each of which must lie within the form, and the form be the file.
-QByteArray chunkSound(const QByteArray &file, int sizeLength, decltype(bigEndian) &number)
+QByteArray chunkSound(const QByteArray &file, int sizeLength, bool isBigEndian)
 {
-    demand(number(file, 4, sizeLength) == file.size() - 4 - sizeLength, "wrong form size");
+    demand(number(file, 4, sizeLength, isBigEndian) == file.size() - 4 - sizeLength,
+           "wrong form size");
     QByteArray sound;
     for (qint64 at = 8 + sizeLength; at < file.size();) {
         const QByteArray name = file.sliced(at, 4);
-        const qint64 size = number(file, at + 4, sizeLength);
+        const qint64 size = number(file, at + 4, sizeLength, isBigEndian);
         at += 4 + sizeLength;
         demand(at + size <= file.size(), "a chunk behind the end");
         const QByteArray data = file.sliced(at, size);
@@ -89,8 +82,8 @@ QByteArray chunkSound(const QByteArray &file, int sizeLength, decltype(bigEndian
 
 QByteArray dsfSound(const QByteArray &file)
 {
-    demand(littleEndian(file, 12, 8) == file.size(), "wrong file size");
-    const qint64 tagOffset = littleEndian(file, 20, 8);
+    demand(number(file, 12, 8, false) == file.size(), "wrong file size");
+    const qint64 tagOffset = number(file, 20, 8, false);
     return file.sliced(28, (tagOffset == 0 ? file.size() : tagOffset) - 28);
 }
 
@@ -100,8 +93,8 @@ QByteArray sampleStarts(const QByteArray &file, const QByteArray &movie, const c
 {
     QByteArray starts;
     for (qint64 at = movie.indexOf(table); at >= 0; at = movie.indexOf(table, at + 4))
-        for (qint64 i = 0; i < bigEndian(movie, at + 8, 4); ++i)
-            starts += file.mid(bigEndian(movie, at + 12 + i * entryLength, entryLength)).first(16);
+        for (qint64 i = 0; i < number(movie, at + 8, 4, true); ++i)
+            starts += file.mid(number(movie, at + 12 + i * entryLength, entryLength, true), 16);
     return starts;
 }
 
@@ -110,7 +103,7 @@ QByteArray mp4Sound(const QByteArray &file)
     QByteArray sound;
     QByteArray movie;
     for (qint64 at = 0; at < file.size();) {
-        const qint64 size = bigEndian(file, at, 4);
+        const qint64 size = number(file, at, 4, true);
         demand(size >= 8 && at + size <= file.size(), "a box behind the end");
         const QByteArray box = file.sliced(at + 4, size - 4);
         if (box.startsWith("moov"))
@@ -144,10 +137,10 @@ QByteArray oggSound(const QByteArray &file)
     std::map<qint64, OggStream> streams;
     for (qint64 at = 0; at < file.size();) {
         demand(file.sliced(at, 4) == "OggS", "no Ogg page");
-        OggStream &stream = streams[littleEndian(file, at + 14, 4)];
-        demand(littleEndian(file, at + 18, 4) == stream.pages++, "a page is missing");
-        const qint64 position = littleEndian(file, at + 6, 8);
-        const qint64 segments = littleEndian(file, at + 26, 1);
+        OggStream &stream = streams[number(file, at + 14, 4, false)];
+        demand(number(file, at + 18, 4, false) == stream.pages++, "a page is missing");
+        const qint64 position = number(file, at + 6, 8, false);
+        const qint64 segments = number(file, at + 26, 1, false);
         const QByteArray sizes = file.sliced(at + 27, segments);
         at += 27 + segments;
         for (const char byte : sizes) {
@@ -183,11 +176,11 @@ QByteArray HRFSoundBytes(const QByteArray &file, HRFContainer container)
     case HRFContainer::Ogg:
         return oggSound(file);
     case HRFContainer::RIFF:
-        return chunkSound(file, 4, littleEndian);
+        return chunkSound(file, 4, false);
     case HRFContainer::AIFF:
-        return chunkSound(file, 4, bigEndian);
+        return chunkSound(file, 4, true);
     case HRFContainer::DSDIFF:
-        return chunkSound(file, 8, bigEndian);
+        return chunkSound(file, 8, true);
     case HRFContainer::DSF:
         return dsfSound(file);
     }
