@@ -83,9 +83,22 @@ HRFResult<void> DSDIFFMetaData::saveTags()
     int types = DSDIFF::File::NoTags;
     if (m_tagFile->hasID3v2Tag() || !ID3V2Tag()->isEmpty())
         types |= DSDIFF::File::ID3v2;
-    if (m_tagFile->hasDIINTag() || !DIINTag()->isEmpty())
+    if (!DIINTag()->isEmpty())
         types |= DSDIFF::File::DIIN;
     if (!m_tagFile->save(types, File::StripNone))
         return std::unexpected(HRFError::fromErrno(EIO));
+    if (m_tagFile->hasDIINTag() && DIINTag()->isEmpty())
+        removeDIINChunk();
     return {};
+}
+
+/// Saving an emptied DIIN tag would leave its chunk. Once that is removed TagLib does not find its
+/// way in the file any more, so the file is read again.
+void DSDIFFMetaData::removeDIINChunk()
+{
+    const bool readProperties = m_tagFile->audioProperties() != nullptr;
+    m_tagFile->strip(DSDIFF::File::DIIN);
+    HRFRewind(stream());
+    m_tagFile = std::make_unique<DSDIFF::File>(&stream(), readProperties, AudioProperties::Average,
+                                               frameFactory());
 }

@@ -28,5 +28,7 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
+    void removeDIINChunk();
+
     std::unique_ptr<TagLib::DSDIFF::File> m_tagFile;
 };

@@ -29,6 +29,7 @@ FLACMetaData::FLACMetaData(std::shared_ptr<HRFTagStream> file, bool readProperti
     : VorbisMetaData(std::move(file))
 {
     setTagFile(std::make_unique<FLAC::File>(&stream(), readProperties));
+    m_hasPictures = !tagFile()->pictureList().isEmpty();
 }
 
 int FLACMetaData::preferredFLACArtworkStorageType()
@@ -97,8 +98,17 @@ HRFResult<void> FLACMetaData::stripTags()
     return VorbisMetaData::stripTags();
 }
 
+/// Whether there are neither tags in the file nor any to be written.
+bool FLACMetaData::isUntagged() const
+{
+    return !tagFile()->hasXiphComment() && !tagFile()->hasID3v2Tag() && !tagFile()->hasID3v1Tag()
+        && xiphTag()->isEmpty() && !m_hasPictures && tagFile()->pictureList().isEmpty();
+}
+
 HRFResult<void> FLACMetaData::saveTags()
 {
+    if (isUntagged())
+        return {};
     for (const FLAC::Picture *picture : tagFile()->pictureList())
         if (qsizetype(picture->render().size()) > largestBlock)
             return std::unexpected(reasonError(QCoreApplication::translate(

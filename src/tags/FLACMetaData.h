@@ -29,4 +29,9 @@ protected:
     const HRFEngineClass &engineClass() const override { return metadataClass; }
     TagLib::FLAC::File *tagFile() const override;
     HRFResult<void> saveTags() override;
+
+private:
+    bool isUntagged() const;
+
+    bool m_hasPictures = false; ///< in the file
 };

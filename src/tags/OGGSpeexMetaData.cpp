@@ -22,9 +22,10 @@ OGGSpeexMetaData::OGGSpeexMetaData(std::shared_ptr<HRFTagStream> file, bool read
     setTagFile(std::make_unique<TagLib::Ogg::Speex::File>(&stream(), readProperties));
 }
 
+/// TagLib makes a tag object even where the stream ends before the packet of the tag.
 HRFResult<void> OGGSpeexMetaData::checkFile()
 {
-    if (!xiphTag())
+    if (static_cast<TagLib::Ogg::File &>(*tagFile()).packet(1).isEmpty())
         return std::unexpected(contentsError());
     return VorbisMetaData::checkFile();
 }
