@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <taglib/id3v2synchdata.h>
 #include <taglib/id3v2tag.h>
+#include <taglib/urllinkframe.h>
 
 #include <algorithm>
 #include <iterator>
@@ -52,6 +53,21 @@ bool beginsWithEmptyFrame(const ByteVector &data, unsigned int version)
            });
 }
 
+/// A podcast's address is text to TagLib, with an encoding byte in front; others write a plain URL.
+ID3v2::Frame *createURLFrame(const ByteVector &data, const ID3v2::Header *tagHeader)
+{
+    constexpr char largestEncoding = 3;
+    const ID3v2::Frame::Header header(data, tagHeader->majorVersion());
+    const ByteVector content = data.mid(header.size(), header.frameSize());
+    if (header.frameID() != "WFED" || content.isEmpty() || content[0] <= largestEncoding)
+        return nullptr;
+    auto frame = std::make_unique<ID3v2::UrlLinkFrame>(header.frameID());
+    frame->setUrl(String(content, String::Latin1));
+    frame->header()->setVersion(tagHeader->majorVersion());
+    frame->header()->setFrameSize(header.frameSize());
+    return frame.release();
+}
+
 /// TagLib folds day and time into the recording time, and makes them anew for ID3v2.3.
 void removeFoldedFrames(ID3v2::Tag &tag)
 {
@@ -70,6 +86,8 @@ void removeFoldedFrames(ID3v2::Tag &tag)
 ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
                                            const ID3v2::Header *tagHeader) const
 {
+    if (ID3v2::Frame *frame = createURLFrame(data, tagHeader))
+        return frame;
     const unsigned int version = tagHeader->majorVersion();
     const ByteVector repaired = ID3RepairedFrame(data, version);
     ID3v2::Frame *frame = FrameFactory::createFrame(repaired, tagHeader);

@@ -29,6 +29,8 @@ private:
     HRFResult<void> moveUndoably(const Placed &placed);
     HRFResult<void> overwriteUndoably(const Placed &placed);
     HRFResult<void> keepAside(qint64 offset, qint64 length);
+    HRFResult<QByteArray> readOld(qint64 offset, qint64 length);
+    void restoreOnFailure(qint64 offset, const QByteArray &old);
     HRFResult<void> move(qint64 from, qint64 to, qint64 length, qint64 &moved);
     HRFError undo(HRFError cause, qint64 oldSize);
 
@@ -90,27 +92,56 @@ HRFResult<void> PieceWriter::moveUndoably(const Placed &placed)
     return result;
 }
 
-/// Makes the given range, as far as the old contents reach, be restored when a later step fails.
+/// Makes the given range be restored when a later step fails.
 HRFResult<void> PieceWriter::keepAside(qint64 offset, qint64 length)
 {
-    length = std::min(length, m_store.size() - offset);
-    if (length <= 0)
-        return {};
-    QByteArray kept(length, Qt::Uninitialized);
-    if (m_store.readAt(offset, {kept.data(), std::size_t(length)}) != length)
-        return std::unexpected(HRFError::fromErrno(EIO));
-    m_undoSteps.emplace_back([this, offset, kept] {
-        return m_store.writeAt(offset, {kept.constData(), std::size_t(kept.size())});
-    });
+    auto old = readOld(offset, length);
+    if (!old)
+        return std::unexpected(std::move(old.error()));
+    if (!old->isEmpty())
+        restoreOnFailure(offset, *old);
     return {};
 }
 
+/// What the store holds in the given range, as far as the old contents reach.
+HRFResult<QByteArray> PieceWriter::readOld(qint64 offset, qint64 length)
+{
+    QByteArray old(std::clamp<qint64>(m_store.size() - offset, 0, length), Qt::Uninitialized);
+    if (m_store.readAt(offset, {old.data(), std::size_t(old.size())}) != old.size())
+        return std::unexpected(HRFError::fromErrno(EIO));
+    return old;
+}
+
+void PieceWriter::restoreOnFailure(qint64 offset, const QByteArray &old)
+{
+    m_undoSteps.emplace_back([this, offset, old] {
+        return m_store.writeAt(offset, {old.constData(), std::size_t(old.size())});
+    });
+}
+
+/// Only what differs is written: most of a saved tag is as it was.
 HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
 {
-    if (auto kept = keepAside(placed.offset, placed.piece->length); !kept)
-        return kept;
-    return m_store.writeAt(placed.offset,
-                           {placed.piece->bytes.constData(), std::size_t(placed.piece->length)});
+    QByteArrayView bytes(placed.piece->bytes);
+    qint64 offset = placed.offset;
+    auto kept = readOld(offset, bytes.size());
+    if (!kept)
+        return std::unexpected(std::move(kept.error()));
+    QByteArrayView old(*kept);
+    const auto equal = std::ranges::mismatch(bytes, old).in1 - bytes.begin();
+    offset += equal;
+    bytes = bytes.sliced(equal);
+    old = old.sliced(equal);
+    if (old.size() == bytes.size()) {
+        const auto end = std::mismatch(bytes.rbegin(), bytes.rend(), old.rbegin()).first;
+        const qsizetype differing = bytes.rend() - end;
+        bytes = bytes.first(differing);
+        old = old.first(differing);
+    }
+    if (bytes.isEmpty())
+        return {};
+    restoreOnFailure(offset, old.toByteArray());
+    return m_store.writeAt(offset, {bytes.data(), std::size_t(bytes.size())});
 }
 
 /// Copies chunk by chunk, from the end when moving towards the end; @p moved counts what is done.

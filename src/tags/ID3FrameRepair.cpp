@@ -60,7 +60,7 @@ ByteVector withoutGroupByte(const ByteVector &frame, unsigned int offset, unsign
 /// Frames whose content is an encoding byte and texts, and nothing else.
 bool isText(std::string_view id)
 {
-    constexpr std::array others = {"WFED", "MVNM", "MVIN", "GRP1"};
+    constexpr std::array<std::string_view, 4> others = {"WFED", "MVNM", "MVIN", "GRP1"};
     return id.starts_with('T') || std::ranges::find(others, id) != others.end();
 }
 

@@ -83,15 +83,28 @@ HRFText ID3MetaData::stringForID3Tag(const char *frameID) const
     return TagLibText::toQString(found->second.front()->toString());
 }
 
+/// The first frame is changed where it stands, so that the tag keeps its order.
 void ID3MetaData::setStringForID3Tag(const HRFText &value, const char *frameID)
 {
     const Lock guard = lock();
-    removeValueForID3Tag(frameID);
-    if (!value || !ID3V2Tag())
+    ID3v2::Tag *tag = ID3V2Tag();
+    if (!tag)
         return;
-    auto frame = std::make_unique<ID3v2::TextIdentificationFrame>(frameID, defaultTextEncoding());
+    const ID3v2::FrameList frames = std::as_const(*tag).frameList(frameID);
+    auto *frame = value && !frames.isEmpty()
+        ? dynamic_cast<ID3v2::TextIdentificationFrame *>(frames.front())
+        : nullptr;
+    for (ID3v2::Frame *old : frames)
+        if (old != frame)
+            tag->removeFrame(old);
+    if (!value)
+        return;
+    if (!frame) {
+        frame = new ID3v2::TextIdentificationFrame(frameID, defaultTextEncoding());
+        tag->addFrame(frame);
+    }
+    frame->setTextEncoding(defaultTextEncoding());
     frame->setText(TagLibText::toTagString(*value));
-    ID3V2Tag()->addFrame(frame.release());
 }
 
 void ID3MetaData::removeValueForID3Tag(const char *frameID)

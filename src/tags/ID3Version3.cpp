@@ -37,18 +37,16 @@ ID3v2::TextIdentificationFrame *firstTextFrame(const ID3v2::Tag &tag, const char
 void moveToUserText(ID3v2::Tag &tag, HRFTagKey key)
 {
     const char *frameID = HRFTagEngine::ID3FrameForKey(key);
-    const ID3v2::FrameList frames = std::as_const(tag).frameList(frameID);
-    if (frames.isEmpty())
+    const auto *first = firstTextFrame(tag, frameID);
+    if (!first)
         return;
     StringList texts;
-    for (const ID3v2::Frame *frame : frames)
+    for (const ID3v2::Frame *frame : std::as_const(tag).frameList(frameID))
         texts.append(frame->toString());
     const String description(HRFTagEngine::APEFrameForKey(key));
     if (auto *old = ID3v2::UserTextIdentificationFrame::find(&tag, description))
         tag.removeFrame(old);
-    auto userText =
-        std::make_unique<ID3v2::UserTextIdentificationFrame>(description, texts, String::UTF8);
-    tag.addFrame(userText.release());
+    tag.addFrame(new ID3v2::UserTextIdentificationFrame(description, texts, first->textEncoding()));
     tag.removeFrames(frameID);
 }
 

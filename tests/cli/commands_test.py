@@ -137,7 +137,7 @@ class UsageTest(CommandTest):
                 (["set", "-t", "ti\x1Btel\n=X"], ["\\x1b", "\\x0a"]),
                 (["set", "--artwork", "missing.jpg"], ["missing.jpg", "No such file"]),
                 (["set", "--artwork", "note.txt"], ["note.txt", "no image"]),
-                (["set", "--artwork", "."], ["--artwork .", "no image"]),
+                (["set", "--artwork", "."], ["--artwork .", "Is a directory"]),
                 (["set"], ["Nothing to set"]),
                 (["-D", setting, "strip"], [setting, "KEY=VALUE"]),
                 (["-D", "=48", "strip"], ["=48", "KEY=VALUE"]),
