@@ -161,11 +161,13 @@ HRFResult<void> MP4MetaData::saveTags()
 {
     if (const QString obstacle = MP4ObstacleToSaving(*m_tagFile); !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
+    const qint64 room = MP4RoomForMoving(*m_tagFile);
     const qint64 oldLength = stream().length();
     if (!m_tagFile->save())
         return std::unexpected(HRFError::fromErrno(EIO));
-    if (stream().length() != oldLength)
-        if (const QString obstacle = MP4ObstacleToMoving(*m_tagFile); !obstacle.isEmpty())
-            return std::unexpected(reasonError(obstacle));
+    const qint64 distance = stream().length() - oldLength;
+    if (const QString obstacle = MP4ObstacleToMoving(*m_tagFile, distance, room);
+        !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
     return {};
 }
