@@ -1,5 +1,7 @@
 #include "tags/MP4Check.h"
 
+#include "tags/MP4FragmentIndex.h"
+
 #include <QCoreApplication>
 #include <taglib/mp4atom.h>
 
@@ -123,9 +125,8 @@ bool hasBaseDataOffset(File &file, const MP4::Atom &fragment)
     return false;
 }
 
-/// Whether offsets of movie fragments are wrong once these have moved: TagLib corrects those in the
-/// first one only (moof, tfhd: ISO/IEC 14496-12 §8.8.4, §8.8.7), and none in the index of the
-/// fragments (mfra: §8.8.9).
+/// Whether offsets in movie fragments are wrong once these have moved: TagLib corrects those in the
+/// first one only (moof, tfhd: ISO/IEC 14496-12 §8.8.4, §8.8.7).
 bool fragmentsAreFixed(File &file)
 {
     const MP4::Atoms atoms(&file);
@@ -137,7 +138,7 @@ bool fragmentsAreFixed(File &file)
         ++fragments;
         isPinned = isPinned || hasBaseDataOffset(file, *atom);
     }
-    return atoms.find("mfra") || (fragments > 1 && isPinned);
+    return fragments > 1 && isPinned;
 }
 
 } // namespace
@@ -168,12 +169,12 @@ qint64 MP4RoomForMoving(File &file)
     return last > movie->offset() ? UINT32_MAX - last : INT64_MAX;
 }
 
-QString MP4ObstacleToMoving(File &file, qint64 distance, qint64 room)
+QString MP4FinishMoving(File &file, qint64 distance, qint64 room)
 {
     if (distance > room)
         return QCoreApplication::translate(
             "MP4Check", "Its audio would move to where its chunk offsets of 32 bits do not reach.");
-    if (distance != 0 && fragmentsAreFixed(file))
+    if (distance != 0 && (fragmentsAreFixed(file) || !MP4MoveFragmentIndex(file, distance)))
         return QCoreApplication::translate(
             "MP4Check",
             "Its audio is in fragments that cannot be moved to make room for the tags.");

@@ -13,6 +13,6 @@ QString MP4ObstacleToSaving(TagLib::File &file);
 /// cannot hold its place any more.
 qint64 MP4RoomForMoving(TagLib::File &file);
 
-/// Why the audio must not have moved by @p distance when TagLib saved the tags; empty when it may.
-/// There was @p room before.
-QString MP4ObstacleToMoving(TagLib::File &file, qint64 distance, qint64 room);
+/// Corrects what TagLib leaves alone when the audio moves by @p distance while the tags are saved;
+/// there was @p room before. Answers why that is not possible; empty when it is.
+QString MP4FinishMoving(TagLib::File &file, qint64 distance, qint64 room);

@@ -166,8 +166,7 @@ HRFResult<void> MP4MetaData::saveTags()
     if (!m_tagFile->save())
         return std::unexpected(HRFError::fromErrno(EIO));
     const qint64 distance = stream().length() - oldLength;
-    if (const QString obstacle = MP4ObstacleToMoving(*m_tagFile, distance, room);
-        !obstacle.isEmpty())
+    if (const QString obstacle = MP4FinishMoving(*m_tagFile, distance, room); !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
     return {};
 }

@@ -33,6 +33,17 @@ const QByteArray list = metaAtom(atom("ilst", {}));
 const QByteArray name = atom("name", "abcd");
 const QByteArray track = trackAtom(number32(0));
 
+/// An index with one entry, which begins with the given numbers.
+QByteArray fragmentIndex(char version, const QByteArray &numbers)
+{
+    constexpr quint32 sizesOfFragmentNumbers = 0b01'10'11; // less 1
+    return atom("mfra",
+                atom("tfra",
+                     version + QByteArray(3, '\0') + number32(1) + number32(sizesOfFragmentNumbers)
+                         + number32(1) + numbers + "aabbbcccc")
+                    + atom("mfro", number32(0) + number32(0)));
+}
+
 } // namespace
 
 TEST(MP4Check, RefusesWhatSavingWouldDamage)
@@ -122,7 +133,6 @@ TEST(MP4Check, RefusesToMoveFragmentsThatCannotBeCorrected)
         atom("moof", atom("traf", atom("tfhd", number32(1) + number32(1) + QByteArray(8, '\0'))));
     const QByteArray relative =
         atom("moof", atom("traf", atom("tfhd", number32(0x20000) + number32(1))));
-    const QByteArray index = atom("mfra", atom("mfro", number32(0) + number32(24)));
     const struct
     {
         const char *name;
@@ -132,10 +142,38 @@ TEST(MP4Check, RefusesToMoveFragmentsThatCannotBeCorrected)
         {"one fragment", pinned + audio, Outcome::saved},
         {"two fragments", pinned + audio + pinned + audio, Outcome::refused},
         {"two relative fragments", relative + audio + relative + audio, Outcome::saved},
-        {"index", relative + audio + relative + audio + index, Outcome::refused},
+        {"damaged index", relative + audio + atom("mfra", number32(9)), Outcome::refused},
+        {"index without room", relative + audio + fragmentIndex(0, number32(0)), Outcome::refused},
+        {"index without reach",
+         relative + audio + fragmentIndex(0, number32(0) + number32(0xFFFFFFF0)), Outcome::refused},
     };
     for (const auto &[name, rest, moved] : cases) {
         EXPECT_EQ(outcomeOfSaving(fileType + movie + rest), moved) << name;
         EXPECT_EQ(outcomeOfSaving(fileType + movie + rest, 400), Outcome::saved) << name;
+    }
+}
+
+TEST(MP4Check, MovesTheIndexOfFragments)
+{
+    const QByteArray movie = fileType + atom("moov", track);
+    const QByteArray fragment = atom("moof", {}) + audio;
+    const quint32 place = quint32(movie.size());
+    const struct
+    {
+        char version;
+        QByteArray time;
+        QByteArray offset; ///< less its last 32 bits
+    } cases[] = {{0, number32(7), {}}, {1, number32(0) + number32(7), number32(0)}};
+    for (const auto &[version, time, offset] : cases) {
+        const auto indexOf = [&](quint32 moved) {
+            return fragmentIndex(version, time + offset + number32(moved));
+        };
+        QByteArray file = movie + fragment + indexOf(place);
+        const auto engine = openMP4(file);
+        engine->setValueForKey(u"One"_s, K::title);
+        ASSERT_TRUE(engine->updateFileWithError());
+        const qsizetype moved = file.indexOf(fragment);
+        EXPECT_GT(moved, place);
+        EXPECT_TRUE(file.endsWith(indexOf(quint32(moved))));
     }
 }
