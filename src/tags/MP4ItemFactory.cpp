@@ -25,7 +25,7 @@ String text(const MP4::AtomData &value)
 {
     if (value.type == MP4::TypeUTF16)
         return {value.data, String::UTF16BE};
-    String result(value.data, String::UTF8);
+    const String result(value.data, String::UTF8);
     // TagLib makes an empty text of what is not UTF-8.
     const bool isUTF8 = !result.isEmpty() || value.data.isEmpty() || value.data.at(0) == '\0';
     return isUTF8 ? result : String(value.data, String::Latin1);
