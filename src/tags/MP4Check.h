@@ -7,11 +7,12 @@ class File;
 }
 
 /// Why saving an MP4 file with TagLib would damage it; empty when it would not.
-///
-/// A chunk offset table (stco, co64: ISO/IEC 14496-12 §8.7.5) that states more entries than it has
-/// room for makes TagLib write over what follows.
 QString MP4ObstacleToSaving(TagLib::File &file);
 
-/// Why the audio must not move within the file; empty when it may. TagLib corrects the data offsets
-/// of the first movie fragment only (moof, tfhd: ISO/IEC 14496-12 §8.8).
-QString MP4ObstacleToMoving(TagLib::File &file);
+/// How many bytes the audio may move towards the end of the file until a chunk offset of 32 bits
+/// cannot hold its place any more.
+qint64 MP4RoomForMoving(TagLib::File &file);
+
+/// Corrects what TagLib leaves alone when the audio moves by @p distance while the tags are saved;
+/// there was @p room before. Answers why that is not possible; empty when it is.
+QString MP4FinishMoving(TagLib::File &file, qint64 distance, qint64 room);

@@ -61,8 +61,8 @@ void writeNumber(MP4MetaData &engine, K key, const QVariant &value)
     const quint64 number = std::min(quint64(value.toLongLong()), quint64(Largest));
     if (number == 0)
         engine.removeValueForTag(atomName);
-    else if (MP4::Tag *tag = engine.MP4File().tag())
-        tag->setItem(atomName, MP4::Item(static_cast<ItemValue>(number)));
+    else
+        engine.setItemForTag(MP4::Item(static_cast<ItemValue>(number)), atomName);
 }
 
 constexpr auto writeByte = &writeNumber<unsigned char, UINT8_MAX>;
@@ -109,14 +109,11 @@ MP4::CoverArt::Format coverFormat(const QByteArray &data)
 void writeArtwork(MP4MetaData &engine, K, const QVariant &value)
 {
     const QByteArray data = value.toByteArray();
-    MP4::Tag *tag = engine.MP4File().tag();
-    if (!tag)
-        return;
     if (data.isEmpty())
-        return tag->removeItem(coverAtom);
+        return engine.removeValueForTag(coverAtom);
     MP4::CoverArtList covers;
     covers.append(MP4::CoverArt(coverFormat(data), TagLibText::toByteVector(data)));
-    tag->setItem(coverAtom, covers);
+    engine.setItemForTag(covers, coverAtom);
 }
 
 QVariant readFrames(const MP4MetaData &engine, K)

@@ -26,7 +26,8 @@ const HRFEngineClass MP4MetaData::metadataClass{
 
 MP4MetaData::MP4MetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : HRFTagEngine(std::move(file))
-    , m_tagFile(std::make_unique<MP4::File>(&stream(), readProperties))
+    , m_tagFile(std::make_unique<MP4::File>(&stream(), readProperties, AudioProperties::Average,
+                                            &m_itemFactory))
 {
 }
 
@@ -46,17 +47,26 @@ void MP4MetaData::setStringForTag(const HRFText &value, const char *tagName)
     HRFRequire(tagName, "tagName");
     if (!value)
         return removeValueForTag(tagName);
+    setItemForTag(StringList(TagLibText::toTagString(*value)), tagName);
+}
+
+void MP4MetaData::setItemForTag(const MP4::Item &item, const char *tagName)
+{
     const Lock guard = lock();
+    removeValueForTag(tagName);
     if (MP4::Tag *tag = m_tagFile->tag())
-        tag->setItem(tagName, StringList(TagLibText::toTagString(*value)));
+        tag->setItem(tagName, item);
 }
 
 void MP4MetaData::removeValueForTag(const char *tagName)
 {
     HRFRequire(tagName, "tagName");
     const Lock guard = lock();
-    if (MP4::Tag *tag = m_tagFile->tag())
+    m_itemFactory.forgetAtoms(tagName);
+    if (MP4::Tag *tag = m_tagFile->tag()) {
         tag->removeItem(tagName);
+        tag->removeItem(MP4ItemFactory::keyOfUnreadable(tagName));
+    }
 }
 
 HRFNumber MP4MetaData::numberForIntPairWithTag(const char *tagName, bool first) const
@@ -82,8 +92,8 @@ void MP4MetaData::setFirstValueSecondValueForTag(const HRFNumber &first, const H
     const int total = int(second.value_or(0));
     if (number == 0 && total == 0)
         removeValueForTag(tagName);
-    else if (MP4::Tag *tag = m_tagFile->tag())
-        tag->setItem(tagName, MP4::Item(number, total));
+    else
+        setItemForTag(MP4::Item(number, total), tagName);
 }
 
 HRFText MP4MetaData::stringForKey(HRFTagKey key) const
@@ -115,9 +125,7 @@ void MP4MetaData::setBooleanForKey(const HRFBoolean &value, HRFTagKey key)
         return;
     if (!value.value_or(false))
         return removeValueForTag(atomName);
-    const Lock guard = lock();
-    if (MP4::Tag *tag = m_tagFile->tag())
-        tag->setItem(atomName, MP4::Item(true));
+    setItemForTag(MP4::Item(true), atomName);
 }
 
 HRFResult<void> MP4MetaData::stripTags()
@@ -153,11 +161,12 @@ HRFResult<void> MP4MetaData::saveTags()
 {
     if (const QString obstacle = MP4ObstacleToSaving(*m_tagFile); !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
+    const qint64 room = MP4RoomForMoving(*m_tagFile);
     const qint64 oldLength = stream().length();
     if (!m_tagFile->save())
         return std::unexpected(HRFError::fromErrno(EIO));
-    if (stream().length() != oldLength)
-        if (const QString obstacle = MP4ObstacleToMoving(*m_tagFile); !obstacle.isEmpty())
-            return std::unexpected(reasonError(obstacle));
+    const qint64 distance = stream().length() - oldLength;
+    if (const QString obstacle = MP4FinishMoving(*m_tagFile, distance, room); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "tags/HRFEngineClass.h"
 #include "tags/HRFTagEngine.h"
+#include "tags/MP4ItemFactory.h"
 
 #include <taglib/mp4file.h>
 
@@ -20,6 +21,8 @@ public:
     HRFText stringForTag(const char *tagName) const;
     /// Replaces the atom by one text, which may be empty; nothing removes the atom.
     void setStringForTag(const HRFText &value, const char *tagName);
+    /// Replaces the atom. All changes of items go through here and removeValueForTag.
+    void setItemForTag(const TagLib::MP4::Item &item, const char *tagName);
     void removeValueForTag(const char *tagName);
 
     /// One half of an integer pair: the number (@p first) or the total. A half of 0 is nothing, but
@@ -43,5 +46,6 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
+    MP4ItemFactory m_itemFactory;
     std::unique_ptr<TagLib::MP4::File> m_tagFile;
 };
