@@ -50,7 +50,7 @@ void appendHeader(QByteArray &bytes, char type, qint64 length)
 qint64 paddingLength(qint64 left, qint64 fileLength)
 {
     constexpr qint64 usual = 4096;
-    constexpr qint64 most = 1024 * 1024;
+    constexpr qint64 most = 1 << 20;
     const qint64 limit = std::clamp(fileLength / 100, usual, most);
     return left < 0 || left > limit ? usual : left;
 }
@@ -69,7 +69,7 @@ std::optional<FLACBlocks> FLACBlocks::read(File &file)
             return {};
         constexpr quint32 lengthMask = 0xFFFFFF;
         const qsizetype length = qFromBigEndian<quint32>(header.constData()) & lengthMask;
-        const char type = header.front() & typeMask;
+        const char type = static_cast<char>(header.front() & typeMask);
         result.blocks.push_back({type, readBytes(file, result.end + headerLength, length)});
         if (result.blocks.back().data.size() < length)
             return {};

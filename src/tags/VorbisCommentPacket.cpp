@@ -23,7 +23,7 @@ std::optional<QByteArray> takeText(QByteArrayView &bytes)
     const auto length = takeNumber(bytes);
     if (!length || qsizetype(*length) > bytes.size())
         return {};
-    const QByteArray text = bytes.first(*length).toByteArray();
+    QByteArray text = bytes.first(*length).toByteArray();
     bytes = bytes.sliced(*length);
     return text;
 }
