@@ -1,13 +1,15 @@
 #include "tags/FLACMetaData.h"
 
 #include "kit/HRFUserDefaults.h"
+#include "tags/FLACBlocks.h"
 #include "tags/FLACPicture.h"
 #include "tags/HRFTagStream.h"
 #include "tags/TagLibText.h"
 
 #include <QCoreApplication>
 #include <taglib/flacproperties.h>
-#include <taglib/xiphcomment.h>
+
+#include <algorithm>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -15,9 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr const char *fileTypes[] = {"flac"};
-
-/// A metadata block's length has 24 bits (RFC 9639 §8.1).
-constexpr qsizetype largestBlock = (1 << 24) - 1;
 
 } // namespace
 
@@ -29,7 +28,6 @@ FLACMetaData::FLACMetaData(std::shared_ptr<HRFTagStream> file, bool readProperti
     : VorbisMetaData(std::move(file))
 {
     setTagFile(std::make_unique<FLAC::File>(&stream(), readProperties));
-    m_hasPictures = !tagFile()->pictureList().isEmpty();
 }
 
 int FLACMetaData::preferredFLACArtworkStorageType()
@@ -58,6 +56,7 @@ QByteArray FLACMetaData::FLACArtwork() const
 void FLACMetaData::setFLACArtwork(const QByteArray &data)
 {
     const Lock guard = lock();
+    m_hasChangedPictures = true;
     tagFile()->removePictures();
     if (!data.isEmpty())
         tagFile()->addPicture(FLACFrontCover(data).release());
@@ -93,42 +92,61 @@ void FLACMetaData::writeValue(const QVariant &value, HRFTagKey key)
 HRFResult<void> FLACMetaData::stripTags()
 {
     const Lock guard = lock();
-    tagFile()->strip(FLAC::File::AllTags);
-    tagFile()->removePictures();
+    setFLACArtwork({});
+    m_isStripping = true;
     return VorbisMetaData::stripTags();
 }
 
-/// Whether there are neither tags in the file nor any to be written.
-bool FLACMetaData::isUntagged() const
+std::optional<QByteArray> FLACMetaData::readCommentBytes() const
 {
-    return !tagFile()->hasXiphComment() && !tagFile()->hasID3v2Tag() && !tagFile()->hasID3v1Tag()
-        && xiphTag()->isEmpty() && !m_hasPictures && tagFile()->pictureList().isEmpty();
+    const auto metadata = FLACBlocks::read(*tagFile());
+    if (!metadata)
+        return {};
+    const auto comment =
+        std::ranges::find(metadata->blocks, FLACBlockType::vorbisComment, &FLACBlock::type);
+    return comment == metadata->blocks.end() ? std::nullopt : std::optional(comment->data);
 }
 
-HRFResult<void> FLACMetaData::saveTags()
+/// Writes the blocks without TagLib, which drops a second comment and unreadable pictures and
+/// writes ID3 tags anew.
+HRFResult<void> FLACMetaData::writeCommentBytes(const QByteArray &bytes)
 {
-    if (isUntagged())
-        return {};
-    for (const FLAC::Picture *picture : tagFile()->pictureList())
-        if (qsizetype(picture->render().size()) > largestBlock)
-            return std::unexpected(reasonError(QCoreApplication::translate(
-                "FLACMetaData", "A picture in a FLAC file cannot be larger than 16 MiB.")));
-    Ogg::XiphComment *comment = xiphTag();
-    if (qsizetype(comment->render(false).size()) > largestBlock)
+    auto metadata = FLACBlocks::read(*tagFile());
+    if (!metadata)
+        return std::unexpected(contentsError());
+    if (bytes.size() > FLACLargestBlock)
         return std::unexpected(reasonError(QCoreApplication::translate(
             "FLACMetaData", "The tags of a FLAC file cannot be larger than 16 MiB.")));
-    if (tagFile()->hasXiphComment())
-        return VorbisMetaData::saveTags();
+    auto &blocks = metadata->blocks;
+    std::erase_if(blocks, [&](const FLACBlock &block) {
+        return (block.type == FLACBlockType::picture && m_hasChangedPictures)
+            || (block.type == FLACBlockType::vorbisComment && m_isStripping);
+    });
+    const auto comment = std::ranges::find(blocks, FLACBlockType::vorbisComment, &FLACBlock::type);
+    if (comment == blocks.end())
+        blocks.push_back({FLACBlockType::vorbisComment, bytes});
+    else
+        comment->data = bytes;
+    if (auto appended = appendPictures(blocks); !appended)
+        return appended;
 
-    // On the first save of a comment TagLib copies the fields of ID3 tags into it, which nobody has
-    // asked for.
-    const Ogg::FieldListMap fields = comment->fieldListMap();
-    if (auto saved = VorbisMetaData::saveTags(); !saved)
-        return saved;
-    comment = xiphTag();
-    comment->removeAllFields();
-    for (const auto &[name, values] : fields)
-        for (const String &value : values)
-            comment->addField(name, value, false);
-    return VorbisMetaData::saveTags();
+    metadata->write(*tagFile());
+    if (m_isStripping)
+        metadata->removeID3Tags(*tagFile());
+    m_isStripping = false;
+    m_hasChangedPictures = false;
+    return {};
+}
+
+HRFResult<void> FLACMetaData::appendPictures(std::vector<FLACBlock> &blocks) const
+{
+    if (!m_hasChangedPictures)
+        return {};
+    for (const FLAC::Picture *picture : tagFile()->pictureList()) {
+        blocks.push_back({FLACBlockType::picture, TagLibText::toQByteArray(picture->render())});
+        if (blocks.back().data.size() > FLACLargestBlock)
+            return std::unexpected(reasonError(QCoreApplication::translate(
+                "FLACMetaData", "A picture in a FLAC file cannot be larger than 16 MiB.")));
+    }
+    return {};
 }

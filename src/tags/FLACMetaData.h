@@ -4,6 +4,8 @@
 
 #include <taglib/flacfile.h>
 
+struct FLACBlock;
+
 /// The engine of native FLAC files.
 class FLACMetaData : public VorbisMetaData
 {
@@ -28,10 +30,12 @@ protected:
     void writeValue(const QVariant &value, HRFTagKey key) override;
     const HRFEngineClass &engineClass() const override { return metadataClass; }
     TagLib::FLAC::File *tagFile() const override;
-    HRFResult<void> saveTags() override;
+    std::optional<QByteArray> readCommentBytes() const override;
+    HRFResult<void> writeCommentBytes(const QByteArray &bytes) override;
 
 private:
-    bool isUntagged() const;
+    [[nodiscard]] HRFResult<void> appendPictures(std::vector<FLACBlock> &blocks) const;
 
-    bool m_hasPictures = false; ///< in the file
+    bool m_hasChangedPictures = false;
+    bool m_isStripping = false;
 };

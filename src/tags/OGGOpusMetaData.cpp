@@ -17,12 +17,23 @@ const HRFEngineClass OGGOpusMetaData::metadataClass{
     &HRFMakeEngine<OGGOpusMetaData>};
 
 OGGOpusMetaData::OGGOpusMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
-    : VorbisMetaData(std::move(file))
+    : OGGMetaData(std::move(file))
 {
     setTagFile(std::make_unique<TagLib::Ogg::Opus::File>(&stream(), readProperties));
 }
 
 QVariant OGGOpusMetaData::readValue(HRFTagKey key) const
 {
-    return key == HRFTagKey::format ? u"OGG Opus"_s : VorbisMetaData::readValue(key);
+    return key == HRFTagKey::format ? u"OGG Opus"_s : OGGMetaData::readValue(key);
+}
+
+std::optional<OGGMetaData::CommentPlace> OGGOpusMetaData::commentPlace() const
+{
+    return CommentPlace{.packet = 1, .prefixLength = sizeof "OpusTags" - 1};
+}
+
+/// Data of other programs is marked by the lowest bit of the first byte (RFC 7845 §5.2).
+QByteArray OGGOpusMetaData::strippedRest(const QByteArray &rest) const
+{
+    return !rest.isEmpty() && (rest.front() & 1) != 0 ? rest : QByteArray();
 }

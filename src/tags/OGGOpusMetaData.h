@@ -1,9 +1,9 @@
 #pragma once
 
-#include "tags/VorbisMetaData.h"
+#include "tags/OGGMetaData.h"
 
 /// The engine of Opus files.
-class OGGOpusMetaData : public VorbisMetaData
+class OGGOpusMetaData : public OGGMetaData
 {
 public:
     static const HRFEngineClass metadataClass;
@@ -13,4 +13,6 @@ public:
 protected:
     QVariant readValue(HRFTagKey key) const override;
     const HRFEngineClass &engineClass() const override { return metadataClass; }
+    std::optional<CommentPlace> commentPlace() const override;
+    QByteArray strippedRest(const QByteArray &rest) const override;
 };

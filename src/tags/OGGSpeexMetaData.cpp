@@ -17,20 +17,25 @@ const HRFEngineClass OGGSpeexMetaData::metadataClass{
     &HRFMakeEngine<OGGSpeexMetaData>};
 
 OGGSpeexMetaData::OGGSpeexMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
-    : VorbisMetaData(std::move(file))
+    : OGGMetaData(std::move(file))
 {
     setTagFile(std::make_unique<TagLib::Ogg::Speex::File>(&stream(), readProperties));
 }
 
-/// TagLib makes a tag object even where the stream ends before the packet of the tag.
 HRFResult<void> OGGSpeexMetaData::checkFile()
 {
-    if (static_cast<TagLib::Ogg::File &>(*tagFile()).packet(1).isEmpty())
+    const auto bytes = readCommentBytes();
+    if (!xiphTag() || !bytes || !VorbisCommentPacket::parse(*bytes))
         return std::unexpected(contentsError());
-    return VorbisMetaData::checkFile();
+    return OGGMetaData::checkFile();
 }
 
 QVariant OGGSpeexMetaData::readValue(HRFTagKey key) const
 {
-    return key == HRFTagKey::format ? u"OGG Speex"_s : VorbisMetaData::readValue(key);
+    return key == HRFTagKey::format ? u"OGG Speex"_s : OGGMetaData::readValue(key);
+}
+
+std::optional<OGGMetaData::CommentPlace> OGGSpeexMetaData::commentPlace() const
+{
+    return CommentPlace{.packet = 1, .prefixLength = 0};
 }

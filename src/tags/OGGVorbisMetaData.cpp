@@ -1,14 +1,13 @@
 #include "tags/OGGVorbisMetaData.h"
 
 #include "tags/HRFTagStream.h"
+#include "tags/OGGPages.h"
 
 #include <QCoreApplication>
+#include <QtEndian>
 #include <taglib/flacproperties.h>
 #include <taglib/oggflacfile.h>
 #include <taglib/vorbisfile.h>
-
-#include <cerrno>
-#include <optional>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -17,29 +16,26 @@ namespace {
 
 constexpr const char *fileTypes[] = {"ogg", "oga"};
 
-constexpr char lastBlockFlag = '\x80';
+/// A metadata block begins with its type and a length of 24 bits (RFC 9639 §8.1).
+constexpr qsizetype flacHeaderLength = 4;
+constexpr qsizetype largestFlacBlock = (1 << 24) - 1;
 
-struct CommentPacket
-{
-    unsigned int index;
-    bool isLastBlock;
-};
-
-/// The packet of the Vorbis comment among the metadata packets that follow the first one (Ogg FLAC
-/// mapping 1.0: a packet is a FLAC metadata block).
-std::optional<CommentPacket> findCommentPacket(Ogg::File &file)
+/// The packet of the comment among the metadata packets, each a FLAC metadata block (Ogg FLAC
+/// mapping 1.0). TagLib reads the last one.
+std::optional<unsigned int> findFlacComment(File &file)
 {
     constexpr char vorbisComment = 4;
     constexpr char typeMask = '\x7F';
+    constexpr char lastBlockFlag = '\x80';
+    std::optional<unsigned int> found;
     for (unsigned int index = 1;; ++index) {
-        const ByteVector block = file.packet(index);
-        if (block.isEmpty())
-            return {};
-        const bool isLastBlock = (block[0] & lastBlockFlag) != 0;
-        if ((block[0] & typeMask) == vorbisComment)
-            return CommentPacket{index, isLastBlock};
-        if (isLastBlock)
-            return {};
+        const auto block = OGGReadPacket(file, index);
+        if (!block || block->isEmpty())
+            return found;
+        if ((block->front() & typeMask) == vorbisComment)
+            found = index;
+        if ((block->front() & lastBlockFlag) != 0)
+            return found;
     }
 }
 
@@ -51,7 +47,7 @@ const HRFEngineClass OGGVorbisMetaData::metadataClass{
     &HRFMakeEngine<OGGVorbisMetaData>};
 
 OGGVorbisMetaData::OGGVorbisMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
-    : VorbisMetaData(std::move(file))
+    : OGGMetaData(std::move(file))
 {
     setTagFile(std::make_unique<Ogg::Vorbis::File>(&stream(), readProperties));
     if (tagFile()->isValid())
@@ -68,30 +64,33 @@ QVariant OGGVorbisMetaData::readValue(HRFTagKey key) const
     const auto *properties = dynamic_cast<const FLAC::Properties *>(audioProperties());
     if (key == HRFTagKey::bitDepth && properties)
         return qlonglong(properties->bitsPerSample());
-    return VorbisMetaData::readValue(key);
+    return OGGMetaData::readValue(key);
 }
 
-HRFResult<void> OGGVorbisMetaData::saveTags()
+std::optional<OGGMetaData::CommentPlace> OGGVorbisMetaData::commentPlace() const
 {
     if (!m_isFlac)
-        return VorbisMetaData::saveTags();
-    return saveOggFlac(static_cast<Ogg::File &>(*tagFile()));
+        return CommentPlace{.packet = 1, .prefixLength = sizeof "\x03vorbis" - 1};
+    const auto packet = findFlacComment(*tagFile());
+    if (!packet)
+        return {};
+    return CommentPlace{.packet = *packet, .prefixLength = flacHeaderLength};
 }
 
-/// TagLib forgets that the comment was the last metadata block, and everything behind it would be
-/// taken for metadata. Without a comment it would overwrite the first packet.
-HRFResult<void> OGGVorbisMetaData::saveOggFlac(Ogg::File &file)
+HRFResult<void> OGGVorbisMetaData::updatePrefix(QByteArray &prefix, qsizetype length) const
 {
-    const auto comment = findCommentPacket(file);
-    if (!comment)
-        return std::unexpected(reasonError(
-            QCoreApplication::translate("OGGVorbisMetaData", "Its stream has no comment.")));
-    if (auto saved = VorbisMetaData::saveTags(); !saved || !comment->isLastBlock)
-        return saved;
-    ByteVector block = file.packet(comment->index);
-    block[0] = static_cast<char>(block[0] | lastBlockFlag);
-    file.setPacket(comment->index, block);
-    if (!file.Ogg::File::save())
-        return std::unexpected(HRFError::fromErrno(EIO));
+    if (!m_isFlac)
+        return {};
+    if (length > largestFlacBlock)
+        return std::unexpected(reasonError(QCoreApplication::translate(
+            "OGGVorbisMetaData", "The tags of a FLAC stream cannot be larger than 16 MiB.")));
+    const quint32 header = (quint32(static_cast<unsigned char>(prefix[0])) << 24) | quint32(length);
+    qToBigEndian(header, prefix.data());
     return {};
+}
+
+/// A Vorbis comment header ends with a framing bit (Vorbis I §5.2.1).
+QByteArray OGGVorbisMetaData::strippedRest(const QByteArray &) const
+{
+    return m_isFlac ? QByteArray() : QByteArray(1, '\x01');
 }

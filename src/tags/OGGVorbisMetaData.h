@@ -1,13 +1,9 @@
 #pragma once
 
-#include "tags/VorbisMetaData.h"
-
-namespace TagLib::Ogg {
-class File;
-}
+#include "tags/OGGMetaData.h"
 
 /// The engine of Ogg files that hold Vorbis or FLAC.
-class OGGVorbisMetaData : public VorbisMetaData
+class OGGVorbisMetaData : public OGGMetaData
 {
 public:
     static const HRFEngineClass metadataClass;
@@ -17,10 +13,10 @@ public:
 protected:
     QVariant readValue(HRFTagKey key) const override;
     const HRFEngineClass &engineClass() const override { return metadataClass; }
-    HRFResult<void> saveTags() override;
+    std::optional<CommentPlace> commentPlace() const override;
+    HRFResult<void> updatePrefix(QByteArray &prefix, qsizetype length) const override;
+    QByteArray strippedRest(const QByteArray &rest) const override;
 
 private:
-    HRFResult<void> saveOggFlac(TagLib::Ogg::File &file);
-
     bool m_isFlac = false;
 };

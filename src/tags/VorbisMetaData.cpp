@@ -8,9 +8,8 @@
 
 #include <QCoreApplication>
 #include <taglib/tfile.h>
-#include <taglib/xiphcomment.h>
 
-#include <cerrno>
+#include <set>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -91,6 +90,41 @@ QVariant readFramesCount(const VorbisMetaData &engine, K)
 {
     const Ogg::XiphComment *comment = engine.xiphTag();
     return comment ? QVariant(qlonglong(comment->fieldListMap().size())) : QVariant();
+}
+
+/// Values are UTF-8 (Vorbis I §5.2.1), but old writers put Latin-1 there.
+String decodedValue(const QByteArray &value)
+{
+    return TagLibText::toTagString(value.isValidUtf8() ? QString::fromUtf8(value)
+                                                       : QString::fromLatin1(value));
+}
+
+/// Gives the comment the fields of the packet, also those whose text TagLib does not read.
+void readFields(Ogg::XiphComment &comment, const VorbisCommentPacket &packet)
+{
+    comment.removeAllFields();
+    for (const QByteArray &entry : packet.entries) {
+        const QByteArray name = VorbisEntryName(entry);
+        if (!VorbisIsPictureName(name))
+            comment.addField(String(name.toStdString()), decodedValue(entry.mid(name.size() + 1)),
+                             false);
+    }
+}
+
+/// The names of the fields that differ.
+std::set<QByteArray> changedFields(const Ogg::FieldListMap &before, const Ogg::FieldListMap &now)
+{
+    std::set<QByteArray> names;
+    for (const Ogg::FieldListMap *fields : {&before, &now})
+        for (const auto &[name, values] : *fields)
+            if (before.value(name) != now.value(name))
+                names.insert(QByteArray::fromStdString(name.to8Bit()));
+    return names;
+}
+
+QByteArray renderedEntry(const QByteArray &name, const ByteVector &value)
+{
+    return name + '=' + TagLibText::toQByteArray(value);
 }
 
 constexpr HRFFieldHandler<VorbisMetaData> handlers[] = {
@@ -177,6 +211,7 @@ void VorbisMetaData::setCommentArtwork(const QByteArray &data)
     Ogg::XiphComment *comment = xiphTag();
     if (!comment)
         return;
+    m_hasChangedPictures = true;
     comment->removeAllPictures();
     if (!data.isEmpty())
         comment->addPicture(FLACFrontCover(data).release());
@@ -209,15 +244,69 @@ HRFResult<void> VorbisMetaData::stripTags()
         return {};
     comment->removeAllFields();
     comment->removeAllPictures();
-    if (comment->isEmpty())
-        return {};
-    return std::unexpected(
-        reasonError(QCoreApplication::translate("VorbisMetaData", "Its tag cannot be emptied.")));
+    VorbisCommentPacket stripped;
+    if (m_packet) {
+        stripped.vendor = m_packet->vendor;
+        stripped.rest = m_packet->rest;
+    }
+    stripped.rest = strippedRest(stripped.rest);
+    m_packet = stripped;
+    m_fields = {};
+    return {};
+}
+
+QByteArray VorbisMetaData::strippedRest(const QByteArray &) const
+{
+    return {};
+}
+
+HRFResult<void> VorbisMetaData::checkFile()
+{
+    if (auto checked = HRFTagEngine::checkFile(); !checked)
+        return checked;
+    const auto bytes = readCommentBytes();
+    m_packet = bytes ? VorbisCommentPacket::parse(*bytes) : VorbisCommentPacket();
+    Ogg::XiphComment *comment = xiphTag();
+    if (comment && m_packet) {
+        readFields(*comment, *m_packet);
+        m_fields = comment->fieldListMap();
+    }
+    return {};
+}
+
+/// The packet with the entries replaced whose fields have changed. All others stay as they are,
+/// readable or not.
+VorbisCommentPacket VorbisMetaData::changedPacket(Ogg::XiphComment &comment) const
+{
+    VorbisCommentPacket packet = *m_packet;
+    const Ogg::FieldListMap &fields = comment.fieldListMap();
+    const auto changed = changedFields(m_fields, fields);
+    packet.entries.removeIf([&](const QByteArray &entry) {
+        const QByteArray name = VorbisEntryName(entry);
+        return VorbisIsPictureName(name) ? m_hasChangedPictures : changed.contains(name);
+    });
+    for (const QByteArray &name : changed)
+        for (const String &value : fields.value(String(name.toStdString())))
+            packet.entries.append(renderedEntry(name, value.data(String::UTF8)));
+    if (m_hasChangedPictures)
+        for (const FLAC::Picture *picture : comment.pictureList())
+            packet.entries.append(
+                renderedEntry("METADATA_BLOCK_PICTURE", picture->render().toBase64()));
+    return packet;
 }
 
 HRFResult<void> VorbisMetaData::saveTags()
 {
-    if (m_tagFile->save())
-        return {};
-    return std::unexpected(HRFError::fromErrno(EIO));
+    Ogg::XiphComment *comment = xiphTag();
+    if (!m_packet || !comment)
+        return std::unexpected(reasonError(QCoreApplication::translate(
+            "VorbisMetaData",
+            "Its tag is damaged: it ends before the last field that it states.")));
+    VorbisCommentPacket packet = changedPacket(*comment);
+    if (auto saved = writeCommentBytes(packet.render()); !saved)
+        return saved;
+    m_packet = std::move(packet);
+    m_fields = comment->fieldListMap();
+    m_hasChangedPictures = false;
+    return {};
 }

@@ -2,10 +2,9 @@
 
 #include "tags/HRFEngineClass.h"
 #include "tags/HRFTagEngine.h"
+#include "tags/VorbisCommentPacket.h"
 
-namespace TagLib::Ogg {
-class XiphComment;
-}
+#include <taglib/xiphcomment.h>
 
 /// The engine of every format whose tag is a Vorbis comment. A subclass opens the file.
 class VorbisMetaData : public HRFTagEngine
@@ -23,6 +22,7 @@ public:
     HRFText stringForKey(HRFTagKey key) const override;
     void setStringForKey(const HRFText &value, HRFTagKey key) override;
     HRFResult<void> stripTags() override;
+    HRFResult<void> checkFile() override;
 
 protected:
     explicit VorbisMetaData(std::shared_ptr<HRFTagStream> stream);
@@ -33,10 +33,21 @@ protected:
     void setTagFile(std::unique_ptr<TagLib::File> file);
     HRFResult<void> saveTags() override;
 
+    /// The bytes of the comment as the file holds them; nothing when it holds none.
+    virtual std::optional<QByteArray> readCommentBytes() const = 0;
+    [[nodiscard]] virtual HRFResult<void> writeCommentBytes(const QByteArray &bytes) = 0;
+    /// What stays behind the entries of a comment when they are stripped.
+    virtual QByteArray strippedRest(const QByteArray &rest) const;
+
     /// Pictures in the comment.
     QByteArray commentArtwork() const;
     void setCommentArtwork(const QByteArray &data);
 
 private:
+    VorbisCommentPacket changedPacket(TagLib::Ogg::XiphComment &comment) const;
+
     std::unique_ptr<TagLib::File> m_tagFile;
+    std::optional<VorbisCommentPacket> m_packet; ///< as in the file; nothing when damaged
+    TagLib::Ogg::FieldListMap m_fields; ///< what the packet says
+    bool m_hasChangedPictures = false;
 };

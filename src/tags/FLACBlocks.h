@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+#include <vector>
+
+namespace TagLib {
+class File;
+}
+
+/// A metadata block's length has 24 bits (RFC 9639 §8.1).
+inline constexpr qsizetype FLACLargestBlock = (1 << 24) - 1;
+
+/// The types of metadata blocks (RFC 9639 §8.1) that the engine changes.
+namespace FLACBlockType {
+inline constexpr char padding = 1;
+inline constexpr char vorbisComment = 4;
+inline constexpr char picture = 6;
+} // namespace FLACBlockType
+
+struct FLACBlock
+{
+    char type;
+    QByteArray data;
+};
+
+/// The metadata blocks of a native FLAC file as its bytes are.
+struct FLACBlocks
+{
+    qint64 start = 0; ///< of the first block, behind "fLaC"
+    qint64 end = 0; ///< where the audio begins
+    std::vector<FLACBlock> blocks;
+
+    /// Nothing when the blocks are cut off.
+    static std::optional<FLACBlocks> read(TagLib::File &file);
+    /// Puts the blocks in the place of those that were read. The audio keeps its place when the
+    /// padding allows for it.
+    void write(TagLib::File &file) const;
+    /// Removes everything before the stream if it begins with an ID3v2 tag, and an ID3v1 tag.
+    void removeID3Tags(TagLib::File &file) const;
+};
