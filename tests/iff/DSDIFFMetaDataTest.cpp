@@ -46,16 +46,10 @@ std::string withoutLastByte(std::string bytes)
     return bytes;
 }
 
-std::vector<Case> cases()
+std::vector<Case> tagCases()
 {
     const std::string sound = chunk("DSD ", audio());
-    const std::string lie = chunk("DIIN", chunk("DITI", number(4000, 4, true) + "Song"));
-    const std::string endless = chunk("PROP",
-                                      "SND "
-                                      "loop"
-                                          + number(quint64(-12), 8, true));
     const char *several = "It has several ID3v2 tags; all but one would be lost.";
-    const char *unknown = "It does not contain DSDIFF audio";
     const std::string all = properties(tag("Inner")) + information() + sound + tag("Root");
     return {
         {"Plain", file(properties() + sound)},
@@ -85,6 +79,19 @@ std::vector<Case> cases()
          {},
          true,
          {"First", "Second"}},
+    };
+}
+
+std::vector<Case> structureCases()
+{
+    const std::string sound = chunk("DSD ", audio());
+    const std::string lie = chunk("DIIN", chunk("DITI", number(4000, 4, true) + "Song"));
+    const std::string endless = chunk("PROP",
+                                      "SND "
+                                      "loop"
+                                          + number(quint64(-12), 8, true));
+    const char *unknown = "It does not contain DSDIFF audio";
+    return {
         {"TextTooLong", file(properties() + lie + sound), "", {lie}},
         {"TextTooLong", file(properties() + lie + sound), "", {}, true, {"DIIN"}},
         {"TagCutOff",
@@ -112,7 +119,9 @@ TEST_P(DSDIFFMetaDataTest, KeepsFile)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, DSDIFFMetaDataTest, testing::ValuesIn(cases()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Tags, DSDIFFMetaDataTest, testing::ValuesIn(tagCases()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Structure, DSDIFFMetaDataTest, testing::ValuesIn(structureCases()),
+                         nameOf);
 
 TEST(DSDIFFMetaDataTest, WritesTexts)
 {
