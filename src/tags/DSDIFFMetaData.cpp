@@ -151,10 +151,11 @@ HRFResult<void> DSDIFFMetaData::saveTags()
     DSDIFFWriter writer(stream());
     writer.setID3(ID3V2Tag()->isEmpty() ? ByteVector() : ID3V2Tag()->render(ID3v2::v4));
     // What is not changed stays as it is, even when it is damaged.
-    for (std::size_t i = 0; i < std::size(fields); ++i)
+    for (std::size_t i = 0; i < std::size(fields); ++i) {
         if (const String text = (DIINTag()->*fields[i].read)();
             m_isStripped || text != m_DIINTexts[i])
             writer.setInDIIN(fields[i].chunkName, contentsOfText(text));
+    }
     if (m_isStripped && DIINTag()->isEmpty())
         writer.removeEmptyDIIN();
     if (!writer.finish())

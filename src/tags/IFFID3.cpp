@@ -77,10 +77,11 @@ QString IFFMergeID3(HRFTagStream &stream, std::span<const IFFChunk> chunks, File
                     ID3v2::Tag &tag)
 {
     const std::vector<IFFChunk> tags = IFFID3Chunks(chunks);
-    for (const IFFChunk &chunk : tags)
+    for (const IFFChunk &chunk : tags) {
         if (QString obstacle = IFFObstacleInID3(stream, chunk.offset, chunk.size);
             !obstacle.isEmpty())
             return obstacle;
+    }
     for (std::size_t i = 1; i < tags.size(); ++i) {
         HRFFrameFactory factory;
         ID3v2::Tag other(&file, tags[i].offset, &factory);

@@ -92,9 +92,11 @@ QString WAVReadInfo(HRFTagStream &stream, std::span<const IFFChunk> chunks, RIFF
     for (const auto &[name, text] : tag.fieldListMap())
         tag.removeField(name);
     QString obstacle;
-    for (const IFFChunk &chunk : chunks)
-        if (chunk.name == "LIST" && IFFReadBytes(stream, chunk.offset, 4) == "INFO")
-            if (QString found = readList(stream, chunk, tag); !found.isEmpty())
-                obstacle = found;
+    for (const IFFChunk &chunk : chunks) {
+        if (chunk.name != "LIST" || IFFReadBytes(stream, chunk.offset, 4) != "INFO")
+            continue;
+        if (QString found = readList(stream, chunk, tag); !found.isEmpty())
+            obstacle = found;
+    }
     return obstacle;
 }
