@@ -24,8 +24,8 @@ QString tr(const char *text)
 bool containsEqual(const ID3v2::FrameList &frames, const ID3v2::Frame &frame)
 {
     const ByteVector bytes = frame.render();
-    return std::any_of(frames.begin(), frames.end(),
-                       [&bytes](const ID3v2::Frame *other) { return other->render() == bytes; });
+    return std::ranges::any_of(
+        frames, [&bytes](const ID3v2::Frame *other) { return other->render() == bytes; });
 }
 
 /// Moves the frames whose identifiers @p tag has not; answers whether it has equals of all others.
