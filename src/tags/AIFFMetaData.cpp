@@ -2,6 +2,7 @@
 
 #include "tags/HRFTagStream.h"
 #include "tags/IFFCheck.h"
+#include "tags/IFFID3.h"
 
 #include <taglib/aiffproperties.h>
 
@@ -28,9 +29,20 @@ AIFFMetaData::AIFFMetaData(std::shared_ptr<HRFTagStream> file, bool readProperti
 /// TagLib takes any bytes for an IFF file.
 HRFResult<void> AIFFMetaData::checkFile()
 {
-    if (!IFFHasHeader(stream(), "FORM", "AIFFAIFC"))
+    if (!IFFHasHeader(stream(), AIFFLayout, "FORM", "AIFFAIFC"))
         return std::unexpected(contentsError());
-    return ID3MetaData::checkFile();
+    if (auto checked = ID3MetaData::checkFile(); !checked)
+        return checked;
+    m_obstacle =
+        IFFMergeID3(stream(), IFFReadChunks(stream(), AIFFLayout).chunks, *m_tagFile, *ID3V2Tag());
+    return {};
+}
+
+HRFResult<void> AIFFMetaData::stripTags()
+{
+    const Lock guard = lock();
+    m_obstacle.clear();
+    return ID3MetaData::stripTags();
 }
 
 QVariant AIFFMetaData::readValue(HRFTagKey key) const
@@ -45,8 +57,14 @@ QVariant AIFFMetaData::readValue(HRFTagKey key) const
 
 HRFResult<void> AIFFMetaData::saveTags()
 {
-    if (const QString obstacle = IFFObstacleToSaving(stream(), IFFByteOrder::BigEndian);
+    if (!m_obstacle.isEmpty())
+        return std::unexpected(reasonError(m_obstacle));
+    if (const QString obstacle = IFFObstacleToSaving(stream(), AIFFLayout, "SSND");
         !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
-    return saveAsVersion4(*m_tagFile);
+    if (auto saved = saveAsVersion4(*m_tagFile); !saved)
+        return saved;
+    if (const QString obstacle = IFFObstacleToKeeping(stream(), AIFFLayout); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
+    return {};
 }

@@ -14,6 +14,7 @@ public:
     AIFFMetaData(std::shared_ptr<HRFTagStream> stream, bool readProperties);
 
     TagLib::ID3v2::Tag *ID3V2Tag() const override { return m_tagFile->tag(); }
+    HRFResult<void> stripTags() override;
     HRFResult<void> checkFile() override;
 
 protected:
@@ -24,4 +25,5 @@ protected:
 
 private:
     std::unique_ptr<TagLib::RIFF::AIFF::File> m_tagFile;
+    QString m_obstacle; ///< why saving would lose a part of the tags
 };

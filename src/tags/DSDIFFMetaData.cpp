@@ -1,14 +1,18 @@
 #include "tags/DSDIFFMetaData.h"
 
+#include "tags/DSDIFFWriter.h"
 #include "tags/HRFTagStream.h"
+#include "tags/IFFCheck.h"
+#include "tags/IFFID3.h"
 #include "tags/TagLibText.h"
 
+#include <QCoreApplication>
 #include <taglib/dsdiffdiintag.h>
 #include <taglib/dsdiffproperties.h>
 #include <taglib/id3v2tag.h>
 
 #include <algorithm>
-#include <cerrno>
+#include <iterator>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -20,26 +24,64 @@ constexpr const char *fileTypes[] = {"dff", "dsdiff"};
 struct DIINField
 {
     HRFTagKey key;
+    const char *chunkName;
     String (Tag::*read)() const;
     void (Tag::*write)(const String &);
 };
 
 constexpr DIINField fields[] = {
-    {HRFTagKey::artist, &Tag::artist, &Tag::setArtist},
-    {HRFTagKey::title, &Tag::title, &Tag::setTitle},
+    {HRFTagKey::artist, "DIAR", &Tag::artist, &Tag::setArtist},
+    {HRFTagKey::title, "DITI", &Tag::title, &Tag::setTitle},
 };
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DSDIFFMetaData", text);
+}
+
+/// The contents of a chunk with a text (DSDIFF 1.5, "DITI", "DIAR").
+ByteVector contentsOfText(const String &text)
+{
+    if (text.isEmpty())
+        return {};
+    const ByteVector characters = text.data(String::Latin1);
+    return ByteVector::fromUInt(characters.size()) + characters;
+}
+
+/// TagLib goes round in circles when the sizes of inner chunks are wrong.
+bool hasSoundChunks(HRFTagStream &stream)
+{
+    const auto chunks = IFFReadChunks(stream, DSDIFFLayout).chunks;
+    return std::ranges::all_of(chunks, [&stream](const IFFChunk &chunk) {
+        // The frame information, which TagLib looks for, comes first (DSDIFF 1.5).
+        if (chunk.name == "DST ")
+            return IFFReadBytes(stream, chunk.offset, 4) == "FRTE";
+        return (chunk.name != "PROP" && chunk.name != "DIIN")
+            || !DSDIFFChildren(stream, chunk).isCutOff;
+    });
+}
 
 } // namespace
 
 const HRFEngineClass DSDIFFMetaData::metadataClass{
     "DSDIFFMetaData", fileTypes, QT_TRANSLATE_NOOP("HRFTagEngine", "DSDIFF audio"),
-    &HRFMakeEngine<DSDIFFMetaData>};
+    &DSDIFFMetaData::open};
+
+HRFResult<std::unique_ptr<HRFTagEngine>> DSDIFFMetaData::open(std::shared_ptr<HRFTagStream> stream,
+                                                              bool readProperties)
+{
+    if (!hasSoundChunks(*stream))
+        return std::unexpected(reasonError(tr("Its chunks are damaged")));
+    return HRFMakeEngine<DSDIFFMetaData>(std::move(stream), readProperties);
+}
 
 DSDIFFMetaData::DSDIFFMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : HRFTagUnion(std::move(file))
     , m_tagFile(std::make_unique<DSDIFF::File>(&stream(), readProperties, AudioProperties::Average,
                                                frameFactory()))
 {
+    for (const DIINField &field : fields)
+        m_DIINTexts.push_back(DIINTag() ? (DIINTag()->*field.read)() : String());
 }
 
 QVariant DSDIFFMetaData::secondValueForKey(HRFTagKey key) const
@@ -75,30 +117,48 @@ QVariant DSDIFFMetaData::readValue(HRFTagKey key) const
     return HRFTagUnion::readValue(key);
 }
 
-/// An empty tag that the file does not have would be saved as an empty chunk.
-HRFResult<void> DSDIFFMetaData::saveTags()
+HRFResult<void> DSDIFFMetaData::stripTags()
 {
-    if (auto prepared = prepareSaving(4); !prepared)
-        return prepared;
-    int types = DSDIFF::File::NoTags;
-    if (m_tagFile->hasID3v2Tag() || !ID3V2Tag()->isEmpty())
-        types |= DSDIFF::File::ID3v2;
-    if (!DIINTag()->isEmpty())
-        types |= DSDIFF::File::DIIN;
-    if (!m_tagFile->save(types, File::StripNone))
-        return std::unexpected(HRFError::fromErrno(EIO));
-    if (m_tagFile->hasDIINTag() && DIINTag()->isEmpty())
-        removeDIINChunk();
+    const Lock guard = lock();
+    m_isStripped = true;
+    m_obstacle.clear();
+    for (const DIINField &field : fields)
+        (DIINTag()->*field.write)(String());
+    return ID3MetaData::stripTags();
+}
+
+/// TagLib takes any bytes for a chunked file.
+HRFResult<void> DSDIFFMetaData::checkFile()
+{
+    if (!IFFHasHeader(stream(), DSDIFFLayout, "FRM8", "DSD "))
+        return std::unexpected(contentsError());
+    if (auto checked = ID3MetaData::checkFile(); !checked)
+        return checked;
+    const std::vector<DSDIFFChunk> chunks = DSDIFFID3Chunks(stream());
+    if (chunks.size() > 1)
+        m_obstacle = tr("It has several ID3v2 tags; all but one would be lost.");
+    else if (!chunks.empty())
+        m_obstacle = IFFObstacleInID3(stream(), chunks.front().offset, chunks.front().size);
     return {};
 }
 
-/// Saving an emptied DIIN tag would leave its chunk. Once that is removed TagLib does not find its
-/// way in the file any more, so the file is read again.
-void DSDIFFMetaData::removeDIINChunk()
+HRFResult<void> DSDIFFMetaData::saveTags()
 {
-    const bool readProperties = m_tagFile->audioProperties() != nullptr;
-    m_tagFile->strip(DSDIFF::File::DIIN);
-    HRFRewind(stream());
-    m_tagFile = std::make_unique<DSDIFF::File>(&stream(), readProperties, AudioProperties::Average,
-                                               frameFactory());
+    if (!m_obstacle.isEmpty())
+        return std::unexpected(reasonError(m_obstacle));
+    if (auto prepared = prepareSaving(4); !prepared)
+        return prepared;
+    DSDIFFWriter writer(stream());
+    writer.setID3(ID3V2Tag()->isEmpty() ? ByteVector() : ID3V2Tag()->render(ID3v2::v4));
+    // What is not changed stays as it is, even when it is damaged.
+    for (std::size_t i = 0; i < std::size(fields); ++i) {
+        if (const String text = (DIINTag()->*fields[i].read)();
+            m_isStripped || text != m_DIINTexts[i])
+            writer.setInDIIN(fields[i].chunkName, contentsOfText(text));
+    }
+    if (m_isStripped && DIINTag()->isEmpty())
+        writer.removeEmptyDIIN();
+    if (!writer.finish())
+        return std::unexpected(reasonError(tr("Its chunks are damaged.")));
+    return {};
 }

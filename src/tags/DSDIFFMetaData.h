@@ -20,6 +20,8 @@ public:
     QVariant secondValueForKey(HRFTagKey key) const;
     void setSecondValueForKey(const QVariant &value, HRFTagKey key);
     QString secondTagVersion() const;
+    HRFResult<void> stripTags() override;
+    HRFResult<void> checkFile() override;
 
 protected:
     QVariant readValue(HRFTagKey key) const override;
@@ -28,7 +30,12 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
-    void removeDIINChunk();
+    /// Tests what TagLib cannot stand, and makes an engine.
+    static HRFResult<std::unique_ptr<HRFTagEngine>> open(std::shared_ptr<HRFTagStream> stream,
+                                                         bool readProperties);
 
     std::unique_ptr<TagLib::DSDIFF::File> m_tagFile;
+    std::vector<TagLib::String> m_DIINTexts; ///< as they were read
+    QString m_obstacle; ///< why saving would lose a part of the tags
+    bool m_isStripped = false;
 };

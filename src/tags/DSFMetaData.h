@@ -19,7 +19,7 @@ protected:
     QVariant readValue(HRFTagKey key) const override;
     const HRFEngineClass &engineClass() const override { return metadataClass; }
     TagLib::File *tagFile() const override { return m_tagFile.get(); }
-    HRFResult<void> saveTags() override { return saveAsVersion4(*m_tagFile); }
+    HRFResult<void> saveTags() override;
 
 private:
     std::unique_ptr<TagLib::DSF::File> m_tagFile;

@@ -4,52 +4,56 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
+#include <cstdint>
 
 namespace {
 
-constexpr qint64 chunkHeaderSize = 8;
-constexpr qint64 formHeaderSize = 12;
+/// More bytes than this behind the last chunk are taken for audio that no chunk states.
+constexpr qint64 largestJunk = 4096;
 
-bool isChunkName(const TagLib::ByteVector &name)
+QString tr(const char *text)
 {
-    return name.size() == 4
-        && std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c < '\x7F'; });
+    return QCoreApplication::translate("IFFCheck", text);
 }
 
 } // namespace
 
-bool IFFHasHeader(HRFTagStream &stream, QByteArrayView container, QByteArrayView formTypes)
+bool IFFHasHeader(HRFTagStream &stream, IFFLayout layout, QByteArrayView container,
+                  QByteArrayView formTypes)
 {
-    stream.seek(0, HRFTagStream::Beginning);
-    const TagLib::ByteVector header = stream.readBlock(formHeaderSize);
-    if (qint64(header.size()) < formHeaderSize
+    const TagLib::ByteVector header = IFFReadBytes(stream, 0, layout.formHeaderSize());
+    if (qint64(header.size()) < layout.formHeaderSize()
         || QByteArrayView(header.data(), container.size()) != container)
         return false;
-    const QByteArrayView formType(header.data() + chunkHeaderSize, 4);
+    const QByteArrayView formType(header.data() + layout.headerSize(), 4);
     for (qsizetype i = 0; i + 4 <= formTypes.size(); i += 4)
         if (formTypes.sliced(i, 4) == formType)
             return true;
     return false;
 }
 
-QString IFFObstacleToSaving(HRFTagStream &stream, IFFByteOrder order)
+QString IFFObstacleToSaving(HRFTagStream &stream, IFFLayout layout, const char *audioName)
 {
-    for (qint64 offset = formHeaderSize; offset + chunkHeaderSize <= stream.length();) {
-        stream.seek(offset, HRFTagStream::Beginning);
-        const TagLib::ByteVector header = stream.readBlock(chunkHeaderSize);
-        // Bytes behind the last chunk that are no chunk stay where they are.
-        if (!isChunkName(header.mid(0, 4)))
-            return {};
-        const qint64 size = header.toUInt(4, order == IFFByteOrder::BigEndian);
-        offset += chunkHeaderSize + size;
-        if (offset > stream.length())
-            return QCoreApplication::translate("IFFCheck", "The file is truncated.");
-        stream.seek(offset, HRFTagStream::Beginning);
-        const TagLib::ByteVector next = stream.readBlock(5);
-        // The byte that pads an odd chunk is missing in some files.
-        if (offset % 2 == 1 && (next.isEmpty() || next[0] == '\0' || isChunkName(next.mid(1, 4))))
-            ++offset;
-    }
+    const IFFChunkList list = IFFReadChunks(stream, layout);
+    if (list.isCutOff)
+        return tr("The file is truncated.");
+    const qint64 junk = stream.length() - list.end;
+    // A single byte is the padding of the last chunk.
+    if (list.chunks.empty() || junk <= 1)
+        return {};
+    const IFFChunk &last = list.chunks.back();
+    const bool hasEmptyAudio = last.name == audioName && last.size == 0;
+    const qint64 statedEnd =
+        layout.headerSize() + IFFSizeFromBytes(layout, IFFReadBytes(stream, 4, layout.sizeWidth));
+    if (hasEmptyAudio || list.end < statedEnd || junk > largestJunk)
+        return tr("The file has audio behind its last chunk; its recording was broken off.");
+    return {};
+}
+
+QString IFFObstacleToKeeping(HRFTagStream &stream, IFFLayout layout)
+{
+    // The size of the container is a 32-bit number (RIFF, EA IFF 85).
+    if (layout.sizeWidth == 4 && stream.length() - layout.headerSize() > qint64(UINT32_MAX))
+        return tr("The file would be larger than 4 GiB, more than its format can hold.");
     return {};
 }

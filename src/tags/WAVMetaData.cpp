@@ -3,8 +3,11 @@
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFTagStream.h"
 #include "tags/IFFCheck.h"
+#include "tags/IFFID3.h"
 #include "tags/TagLibText.h"
+#include "tags/WAVInfo.h"
 
+#include <QCoreApplication>
 #include <taglib/infotag.h>
 #include <taglib/wavproperties.h>
 
@@ -24,6 +27,21 @@ int enabledTagTypes()
         + (defaults.boolForKey(u"lirra.tagging.RIFF.INFO"_s) ? RIFF::WAV::File::Info : 0);
 }
 
+/// Files whose sizes stand in a "ds64" chunk (EBU Tech 3306, ITU-R BS.2088).
+bool has64BitSizes(HRFTagStream &stream)
+{
+    return IFFHasHeader(stream, RIFFLayout, "RF64", "WAVE")
+        || IFFHasHeader(stream, RIFFLayout, "BW64", "WAVE");
+}
+
+std::unique_ptr<RIFF::WAV::File> openFile(HRFTagStream &stream, bool readProperties,
+                                          ID3v2::FrameFactory *frameFactory)
+{
+    WAVRegisterInfoTexts();
+    return std::make_unique<RIFF::WAV::File>(&stream, readProperties, AudioProperties::Average,
+                                             frameFactory);
+}
+
 } // namespace
 
 const HRFEngineClass WAVMetaData::metadataClass{"WAVMetaData", fileTypes,
@@ -33,8 +51,7 @@ const HRFEngineClass WAVMetaData::metadataClass{"WAVMetaData", fileTypes,
 WAVMetaData::WAVMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : HRFTagUnion(std::move(file))
     , m_saveTagTypes(enabledTagTypes())
-    , m_tagFile(std::make_unique<RIFF::WAV::File>(&stream(), readProperties,
-                                                  AudioProperties::Average, frameFactory()))
+    , m_tagFile(openFile(stream(), readProperties, frameFactory()))
 {
 }
 
@@ -122,15 +139,29 @@ HRFResult<void> WAVMetaData::stripTags()
         chunkIDs.push_back(chunkID);
     for (const ByteVector &chunkID : chunkIDs)
         infoTag()->removeField(chunkID);
+    m_obstacle.clear();
     return ID3MetaData::stripTags();
 }
 
 /// TagLib takes any bytes for a RIFF file.
 HRFResult<void> WAVMetaData::checkFile()
 {
-    if (!IFFHasHeader(stream(), "RIFF", "WAVE"))
+    if (has64BitSizes(stream()))
+        return std::unexpected(reasonError(
+            QCoreApplication::translate("WAVMetaData", "RF64 files are not supported")));
+    if (!IFFHasHeader(stream(), RIFFLayout, "RIFF", "WAVE"))
         return std::unexpected(contentsError());
-    return ID3MetaData::checkFile();
+    if (auto checked = ID3MetaData::checkFile(); !checked)
+        return checked;
+    const std::vector<IFFChunk> chunks = IFFReadChunks(stream(), RIFFLayout).chunks;
+    const QString inID3 = IFFMergeID3(stream(), chunks, *m_tagFile, *ID3V2Tag());
+    const QString inInfo = WAVReadInfo(stream(), chunks, *infoTag());
+    // A tag that is switched off is removed from the file anyway.
+    if ((m_saveTagTypes & RIFF::WAV::File::ID3v2) != 0)
+        m_obstacle = inID3;
+    if ((m_saveTagTypes & RIFF::WAV::File::Info) != 0 && m_obstacle.isEmpty())
+        m_obstacle = inInfo;
+    return {};
 }
 
 QVariant WAVMetaData::readValue(HRFTagKey key) const
@@ -145,7 +176,9 @@ QVariant WAVMetaData::readValue(HRFTagKey key) const
 
 HRFResult<void> WAVMetaData::saveTags()
 {
-    if (const QString obstacle = IFFObstacleToSaving(stream(), IFFByteOrder::LittleEndian);
+    if (!m_obstacle.isEmpty())
+        return std::unexpected(reasonError(m_obstacle));
+    if (const QString obstacle = IFFObstacleToSaving(stream(), RIFFLayout, "data");
         !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
     if (auto prepared = prepareSaving(preferredID3v2Version()); !prepared)
@@ -154,5 +187,7 @@ HRFResult<void> WAVMetaData::saveTags()
     const auto version = preferredID3v2Version() == 3 ? ID3v2::v3 : ID3v2::v4;
     if (!m_tagFile->save(types, File::StripOthers, version))
         return std::unexpected(HRFError::fromErrno(EIO));
+    if (const QString obstacle = IFFObstacleToKeeping(stream(), RIFFLayout); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
     return {};
 }

@@ -44,4 +44,5 @@ protected:
 private:
     const int m_saveTagTypes; ///< the types that are switched on
     std::unique_ptr<TagLib::RIFF::WAV::File> m_tagFile;
+    QString m_obstacle; ///< why saving would lose a part of the tags
 };
