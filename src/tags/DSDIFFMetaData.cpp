@@ -120,10 +120,7 @@ QVariant DSDIFFMetaData::readValue(HRFTagKey key) const
 HRFResult<void> DSDIFFMetaData::stripTags()
 {
     const Lock guard = lock();
-    m_isStripped = true;
     m_obstacle.clear();
-    for (const DIINField &field : fields)
-        (DIINTag()->*field.write)(String());
     return ID3MetaData::stripTags();
 }
 
@@ -152,12 +149,13 @@ HRFResult<void> DSDIFFMetaData::saveTags()
     writer.setID3(ID3V2Tag()->isEmpty() ? ByteVector() : ID3V2Tag()->render(ID3v2::v4));
     // What is not changed stays as it is, even when it is damaged.
     for (std::size_t i = 0; i < std::size(fields); ++i) {
-        if (const String text = (DIINTag()->*fields[i].read)();
-            m_isStripped || text != m_DIINTexts[i])
-            writer.setInDIIN(fields[i].chunkName, contentsOfText(text));
+        const String text = (DIINTag()->*fields[i].read)();
+        if (text == m_DIINTexts[i])
+            continue;
+        writer.setInDIIN(fields[i].chunkName, contentsOfText(text));
+        if (DIINTag()->isEmpty())
+            writer.removeEmptyDIIN();
     }
-    if (m_isStripped && DIINTag()->isEmpty())
-        writer.removeEmptyDIIN();
     if (!writer.finish())
         return std::unexpected(reasonError(tr("Its chunks are damaged.")));
     return {};

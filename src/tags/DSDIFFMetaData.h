@@ -37,5 +37,4 @@ private:
     std::unique_ptr<TagLib::DSDIFF::File> m_tagFile;
     std::vector<TagLib::String> m_DIINTexts; ///< as they were read
     QString m_obstacle; ///< why saving would lose a part of the tags
-    bool m_isStripped = false;
 };

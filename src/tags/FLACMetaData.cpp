@@ -118,15 +118,17 @@ HRFResult<void> FLACMetaData::writeCommentBytes(const QByteArray &bytes)
         return std::unexpected(reasonError(QCoreApplication::translate(
             "FLACMetaData", "The tags of a FLAC file cannot be larger than 16 MiB.")));
     auto &blocks = metadata->blocks;
+    const bool hasComment = std::ranges::any_of(
+        blocks, [](const FLACBlock &block) { return block.type == FLACBlockType::vorbisComment; });
     std::erase_if(blocks, [&](const FLACBlock &block) {
         return (block.type == FLACBlockType::picture && m_hasChangedPictures)
             || (block.type == FLACBlockType::vorbisComment && m_isStripping);
     });
     const auto comment = std::ranges::find(blocks, FLACBlockType::vorbisComment, &FLACBlock::type);
-    if (comment == blocks.end())
-        blocks.push_back({FLACBlockType::vorbisComment, bytes});
-    else
+    if (comment != blocks.end())
         comment->data = bytes;
+    else if (hasComment || !m_isStripping)
+        blocks.push_back({FLACBlockType::vorbisComment, bytes});
     if (auto appended = appendPictures(blocks); !appended)
         return appended;
 
