@@ -149,12 +149,28 @@ void MP4MetaData::writeValue(const QVariant &value, HRFTagKey key)
     HRFTagEngine::writeValue(value, key);
 }
 
+/// TagLib's idea of the atoms is out of date once it has saved: every save gets a new one.
+bool MP4MetaData::saveItems()
+{
+    MP4::File file(&stream(), false);
+    if (!file.isValid())
+        return false;
+    MP4::Tag *tag = file.tag();
+    while (!tag->isEmpty()) {
+        const String name = tag->itemMap().begin()->first;
+        tag->removeItem(name);
+    }
+    for (const auto &[name, item] : m_tagFile->tag()->itemMap())
+        tag->setItem(name, item);
+    return file.save();
+}
+
 HRFResult<void> MP4MetaData::saveTags()
 {
     if (const QString obstacle = MP4ObstacleToSaving(*m_tagFile); !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
     const qint64 oldLength = stream().length();
-    if (!m_tagFile->save())
+    if (!saveItems())
         return std::unexpected(HRFError::fromErrno(EIO));
     if (stream().length() != oldLength)
         if (const QString obstacle = MP4ObstacleToMoving(*m_tagFile); !obstacle.isEmpty())

@@ -43,5 +43,7 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
+    bool saveItems();
+
     std::unique_ptr<TagLib::MP4::File> m_tagFile;
 };
