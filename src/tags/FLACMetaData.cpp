@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <taglib/flacproperties.h>
+#include <taglib/id3v2tag.h>
 #include <taglib/xiphcomment.h>
 
 using namespace TagLib;
@@ -28,7 +29,18 @@ const HRFEngineClass FLACMetaData::metadataClass{"FLACMetaData", fileTypes,
 FLACMetaData::FLACMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : VorbisMetaData(std::move(file))
 {
-    setTagFile(std::make_unique<FLAC::File>(&stream(), readProperties));
+    setTagFile(std::make_unique<FLAC::File>(&stream(), readProperties, AudioProperties::Average,
+                                            &m_frameFactory));
+}
+
+/// TagLib writes the ID3v2 tag anew whenever it saves.
+HRFResult<void> FLACMetaData::checkFile()
+{
+    if (auto checked = VorbisMetaData::checkFile(); !checked)
+        return checked;
+    if (ID3v2::Tag *tag = tagFile()->ID3v2Tag(); tag && tag->header()->tagSize() > 0)
+        m_frameFactory.completeTag(*tag);
+    return {};
 }
 
 int FLACMetaData::preferredFLACArtworkStorageType()
@@ -99,6 +111,9 @@ HRFResult<void> FLACMetaData::stripTags()
 
 HRFResult<void> FLACMetaData::saveTags()
 {
+    if (const QString obstacle = m_frameFactory.obstacle();
+        tagFile()->ID3v2Tag() && !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
     for (const FLAC::Picture *picture : tagFile()->pictureList())
         if (qsizetype(picture->render().size()) > largestBlock)
             return std::unexpected(reasonError(QCoreApplication::translate(

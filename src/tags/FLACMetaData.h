@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tags/HRFFrameFactory.h"
 #include "tags/VorbisMetaData.h"
 
 #include <taglib/flacfile.h>
@@ -22,6 +23,7 @@ public:
     /// Replaces all picture blocks by one, or by none for empty data.
     void setFLACArtwork(const QByteArray &data);
     HRFResult<void> stripTags() override;
+    HRFResult<void> checkFile() override;
 
 protected:
     QVariant readValue(HRFTagKey key) const override;
@@ -29,4 +31,7 @@ protected:
     const HRFEngineClass &engineClass() const override { return metadataClass; }
     TagLib::FLAC::File *tagFile() const override;
     HRFResult<void> saveTags() override;
+
+private:
+    HRFFrameFactory m_frameFactory; ///< of the ID3v2 tag that may stand before the stream
 };
