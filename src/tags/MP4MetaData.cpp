@@ -30,6 +30,13 @@ MP4MetaData::MP4MetaData(std::shared_ptr<HRFTagStream> file, bool readProperties
 {
 }
 
+HRFResult<void> MP4MetaData::checkBeforeOpening(HRFTagStream &stream)
+{
+    if (const QString obstacle = MP4ObstacleToOpening(stream); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
+    return {};
+}
+
 HRFText MP4MetaData::stringForTag(const char *tagName) const
 {
     HRFRequire(tagName, "tagName");

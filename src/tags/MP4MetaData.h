@@ -13,6 +13,9 @@ public:
 
     MP4MetaData(std::shared_ptr<HRFTagStream> stream, bool readProperties);
 
+    /// Whether TagLib can read the container at all.
+    static HRFResult<void> checkBeforeOpening(HRFTagStream &stream);
+
     TagLib::MP4::File &MP4File() const { return *m_tagFile; }
 
     /// The first text of the atom; empty when the atom holds something else than text. A null atom
