@@ -1,5 +1,6 @@
 #include "tags/DSDIFFMetaData.h"
 
+#include "tags/DSDIFFCheck.h"
 #include "tags/HRFTagStream.h"
 #include "tags/TagLibText.h"
 
@@ -42,6 +43,13 @@ DSDIFFMetaData::DSDIFFMetaData(std::shared_ptr<HRFTagStream> file, bool readProp
 {
 }
 
+HRFResult<void> DSDIFFMetaData::checkBeforeOpening(HRFTagStream &stream)
+{
+    if (const QString obstacle = DSDIFFObstacleToOpening(stream); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
+    return {};
+}
+
 QVariant DSDIFFMetaData::secondValueForKey(HRFTagKey key) const
 {
     const auto *field = std::ranges::find(fields, key, &DIINField::key);
@@ -78,6 +86,8 @@ QVariant DSDIFFMetaData::readValue(HRFTagKey key) const
 /// An empty tag that the file does not have would be saved as an empty chunk.
 HRFResult<void> DSDIFFMetaData::saveTags()
 {
+    if (const QString obstacle = DSDIFFObstacleToSaving(stream()); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
     if (auto prepared = prepareSaving(4); !prepared)
         return prepared;
     int types = DSDIFF::File::NoTags;

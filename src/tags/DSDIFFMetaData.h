@@ -14,6 +14,9 @@ public:
 
     DSDIFFMetaData(std::shared_ptr<HRFTagStream> stream, bool readProperties);
 
+    /// Whether TagLib can read the file at all.
+    static HRFResult<void> checkBeforeOpening(HRFTagStream &stream);
+
     TagLib::ID3v2::Tag *ID3V2Tag() const override { return m_tagFile->ID3v2Tag(); }
     TagLib::DSDIFF::DIIN::Tag *DIINTag() const { return m_tagFile->DIINTag(); }
 
