@@ -65,14 +65,13 @@ bool hasSoundChunks(HRFTagStream &stream)
 
 const HRFEngineClass DSDIFFMetaData::metadataClass{
     "DSDIFFMetaData", fileTypes, QT_TRANSLATE_NOOP("HRFTagEngine", "DSDIFF audio"),
-    &DSDIFFMetaData::open};
+    &HRFMakeEngine<DSDIFFMetaData>};
 
-HRFResult<std::unique_ptr<HRFTagEngine>> DSDIFFMetaData::open(std::shared_ptr<HRFTagStream> stream,
-                                                              bool readProperties)
+HRFResult<void> DSDIFFMetaData::checkBeforeOpening(HRFTagStream &stream)
 {
-    if (!hasSoundChunks(*stream))
+    if (!hasSoundChunks(stream))
         return std::unexpected(reasonError(tr("Its chunks are damaged")));
-    return HRFMakeEngine<DSDIFFMetaData>(std::move(stream), readProperties);
+    return {};
 }
 
 DSDIFFMetaData::DSDIFFMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)

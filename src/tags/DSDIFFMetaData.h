@@ -14,6 +14,9 @@ public:
 
     DSDIFFMetaData(std::shared_ptr<HRFTagStream> stream, bool readProperties);
 
+    /// Whether TagLib can read the file at all.
+    static HRFResult<void> checkBeforeOpening(HRFTagStream &stream);
+
     TagLib::ID3v2::Tag *ID3V2Tag() const override { return m_tagFile->ID3v2Tag(); }
     TagLib::DSDIFF::DIIN::Tag *DIINTag() const { return m_tagFile->DIINTag(); }
 
@@ -31,9 +34,6 @@ protected:
 
 private:
     /// Tests what TagLib cannot stand, and makes an engine.
-    static HRFResult<std::unique_ptr<HRFTagEngine>> open(std::shared_ptr<HRFTagStream> stream,
-                                                         bool readProperties);
-
     std::unique_ptr<TagLib::DSDIFF::File> m_tagFile;
     std::vector<TagLib::String> m_DIINTexts; ///< as they were read
     QString m_obstacle; ///< why saving would lose a part of the tags

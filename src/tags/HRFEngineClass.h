@@ -26,11 +26,15 @@ struct HRFEngineClass
 /// Some of TagLib's files begin to read where the stream stands.
 void HRFRewind(HRFTagStream &stream);
 
-/// The initWithStream of an engine class whose constructor takes the same arguments.
+/// The initWithStream of an engine class whose constructor takes the same arguments. The class may
+/// offer checkBeforeOpening(stream), which keeps from TagLib what it cannot cope with.
 template <class Engine>
 HRFResult<std::unique_ptr<HRFTagEngine>> HRFMakeEngine(std::shared_ptr<HRFTagStream> stream,
                                                        bool readProperties)
 {
+    if constexpr (requires { Engine::checkBeforeOpening(*stream); })
+        if (auto checked = Engine::checkBeforeOpening(*stream); !checked)
+            return std::unexpected(std::move(checked.error()));
     HRFRewind(*stream);
     auto engine = std::make_unique<Engine>(std::move(stream), readProperties);
     if (auto checked = engine->checkFile(); !checked)

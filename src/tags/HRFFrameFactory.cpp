@@ -90,7 +90,9 @@ ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
         return frame;
     const unsigned int version = tagHeader->majorVersion();
     const ByteVector repaired = ID3RepairedFrame(data, version);
-    ID3v2::Frame *frame = FrameFactory::createFrame(repaired, tagHeader);
+    ID3v2::Frame *frame = m_check.isSafe(repaired, *tagHeader)
+        ? FrameFactory::createFrame(repaired, tagHeader)
+        : nullptr;
     if (!frame) {
         m_unparsed = data;
         return nullptr;

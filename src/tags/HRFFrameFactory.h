@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tags/ID3FrameCheck.h"
+
 #include <QString>
 #include <taglib/id3v2framefactory.h>
 #include <taglib/tbytevector.h>
@@ -34,6 +36,7 @@ public:
 private:
     void parseFrames(TagLib::ID3v2::Tag &tag, TagLib::ByteVector rest) const;
 
+    mutable ID3FrameCheck m_check;
     mutable TagLib::ByteVector m_unparsed; ///< what follows the last frame that could be parsed
     mutable QString m_obstacle;
 };

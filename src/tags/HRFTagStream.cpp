@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <limits>
 
 HRFTagStream::HRFTagStream(std::unique_ptr<HRFByteStore> store) : m_store(std::move(store))
 {
@@ -25,7 +26,9 @@ void HRFTagStream::discard()
 void HRFTagStream::seek(TagLib::offset_t offset, Position position)
 {
     const qint64 base = position == Beginning ? 0 : position == Current ? m_position : m_length;
-    m_position = std::max<qint64>(0, base + offset);
+    // Damaged files make TagLib seek anywhere.
+    const qint64 behind = std::numeric_limits<qint64>::max() - base;
+    m_position = std::max<qint64>(0, base + std::min<qint64>(offset, behind));
 }
 
 TagLib::ByteVector HRFTagStream::readBlock(std::size_t length)

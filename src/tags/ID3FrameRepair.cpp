@@ -104,7 +104,7 @@ ByteVector withByteOrderMark(const ByteVector &frame, unsigned int offset, unsig
 unsigned int offsetBehindDescription(const ByteVector &frame, unsigned int description)
 {
     for (unsigned int offset = description; offset + 1 < frame.size(); offset += 2)
-        if (frame[offset] == '\0' && frame[offset + 1] == '\0')
+        if (frame[int(offset)] == '\0' && frame[int(offset) + 1] == '\0')
             return offset + 2;
     return frame.size();
 }

@@ -21,6 +21,9 @@ public:
     /// To be called when the item gets another value: that is written instead of its atoms.
     void forgetAtoms(const TagLib::String &key) { m_atoms.erase(key); }
 
+    /// To be called before the tag is parsed anew.
+    void forgetAllAtoms() { m_atoms.clear(); }
+
     /// The key of the item that stands for the atoms of a name that cannot be read.
     static TagLib::String keyOfUnreadable(const TagLib::String &key);
 

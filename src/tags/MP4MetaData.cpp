@@ -26,9 +26,24 @@ const HRFEngineClass MP4MetaData::metadataClass{
 
 MP4MetaData::MP4MetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : HRFTagEngine(std::move(file))
-    , m_tagFile(std::make_unique<MP4::File>(&stream(), readProperties, AudioProperties::Average,
-                                            &m_itemFactory))
 {
+    openTagFile(readProperties);
+}
+
+/// TagLib's idea of the atoms is out of date once it has saved: the next save needs a new one.
+void MP4MetaData::openTagFile(bool readProperties)
+{
+    m_itemFactory.forgetAllAtoms();
+    HRFRewind(stream());
+    m_tagFile = std::make_unique<MP4::File>(&stream(), readProperties, AudioProperties::Average,
+                                            &m_itemFactory);
+}
+
+HRFResult<void> MP4MetaData::checkBeforeOpening(HRFTagStream &stream)
+{
+    if (const QString obstacle = MP4ObstacleToOpening(stream); !obstacle.isEmpty())
+        return std::unexpected(reasonError(obstacle));
+    return {};
 }
 
 HRFText MP4MetaData::stringForTag(const char *tagName) const
@@ -168,5 +183,6 @@ HRFResult<void> MP4MetaData::saveTags()
     const qint64 distance = stream().length() - oldLength;
     if (const QString obstacle = MP4FinishMoving(*m_tagFile, distance, room); !obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
+    openTagFile(m_tagFile->audioProperties() != nullptr);
     return {};
 }

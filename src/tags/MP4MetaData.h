@@ -14,6 +14,9 @@ public:
 
     MP4MetaData(std::shared_ptr<HRFTagStream> stream, bool readProperties);
 
+    /// Whether TagLib can read the container at all.
+    static HRFResult<void> checkBeforeOpening(HRFTagStream &stream);
+
     TagLib::MP4::File &MP4File() const { return *m_tagFile; }
 
     /// The first text of the atom; empty when the atom holds something else than text. A null atom
@@ -46,6 +49,8 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
+    void openTagFile(bool readProperties);
+
     MP4ItemFactory m_itemFactory;
     std::unique_ptr<TagLib::MP4::File> m_tagFile;
 };
