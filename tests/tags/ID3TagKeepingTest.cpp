@@ -66,8 +66,8 @@ TEST_F(ID3TagKeeping, LeavesForeignFramesByteForByte)
 TEST_F(ID3TagKeeping, KeepsAFrameOrRefusesToSave)
 {
     const std::tuple<int, int, HRFRawFrame> rows[] = {
-        {3, 3, {"XABC", "\x81 in a group"s, "\0\x20"s}},
-        {4, 4, {"XABC", "\x81 in a group"s, "\0\x40"s}},
+        {3, 3, {"XABC", "secret"s, "\0\x40"s}},
+        {4, 4, {"XABC", "secret"s, "\0\x04"s}},
         {4, 3, {"RVA2", "track\0\1\2\0\0"s}},
         {4, 3, {"EQU2", "\1id\0\1\2\3\4"s}},
     };
@@ -79,6 +79,16 @@ TEST_F(ID3TagKeeping, KeepsAFrameOrRefusesToSave)
             EXPECT_THAT(ID3v2Frames(file.bytes), Contains(frame)) << frame.id << " to " << to;
         else
             EXPECT_TRUE(file.bytes == old) << frame.id;
+    }
+}
+
+TEST_F(ID3TagKeeping, TakesAFrameOutOfItsGroup)
+{
+    for (const auto &[version, flags] : {std::pair(3, "\0\x20"s), std::pair(4, "\0\x40"s)}) {
+        setVersion(version);
+        HRFTestFile file{ID3v2Tag(version, {{"XABC", "\x81words"s, flags}}) + audio()};
+        file.set({{K::title, u"b"_s}});
+        EXPECT_THAT(ID3v2Frames(file.bytes), Contains(HRFRawFrame{"XABC", "words"})) << version;
     }
 }
 

@@ -213,6 +213,14 @@ TEST_F(MPEGMetaDataTest, TellsWhyASaveFailed)
     EXPECT_EQ(error.recoverySuggestion, error.underlying->description);
 }
 
+TEST_F(MPEGMetaDataTest, SavesATimeToTheSecond)
+{
+    const QDateTime time(QDate(2004, 5, 6), QTime(7, 8, 9, 123), Qt::UTC);
+    HRFTestFile file;
+    file.set({{K::taggingTime, time}});
+    EXPECT_EQ(file.read(K::taggingTime), time.addMSecs(-123));
+}
+
 TEST_F(MPEGMetaDataTest, RefusesValuesThatTheFileCannotHold)
 {
     const std::tuple<bool, K, QVariant> rows[] = {
