@@ -79,6 +79,12 @@ DSDIFFMetaData::DSDIFFMetaData(std::shared_ptr<HRFTagStream> file, bool readProp
     , m_tagFile(std::make_unique<DSDIFF::File>(&stream(), readProperties, AudioProperties::Average,
                                                frameFactory()))
 {
+    readDIINTexts();
+}
+
+void DSDIFFMetaData::readDIINTexts()
+{
+    m_DIINTexts.clear();
     for (const DIINField &field : fields)
         m_DIINTexts.push_back(DIINTag() ? (DIINTag()->*field.read)() : String());
 }
@@ -147,15 +153,17 @@ HRFResult<void> DSDIFFMetaData::saveTags()
     DSDIFFWriter writer(stream());
     writer.setID3(ID3V2Tag()->isEmpty() ? ByteVector() : ID3V2Tag()->render(ID3v2::v4));
     // What is not changed stays as it is, even when it is damaged.
-    for (std::size_t i = 0; i < std::size(fields); ++i) {
-        const String text = (DIINTag()->*fields[i].read)();
-        if (text == m_DIINTexts[i])
+    auto oldText = m_DIINTexts.begin();
+    for (const DIINField &field : fields) {
+        const String text = (DIINTag()->*field.read)();
+        if (text == *oldText++)
             continue;
-        writer.setInDIIN(fields[i].chunkName, contentsOfText(text));
+        writer.setInDIIN(field.chunkName, contentsOfText(text));
         if (DIINTag()->isEmpty())
             writer.removeEmptyDIIN();
     }
     if (!writer.finish())
         return std::unexpected(reasonError(tr("Its chunks are damaged.")));
+    readDIINTexts();
     return {};
 }

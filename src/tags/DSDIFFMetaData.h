@@ -33,6 +33,8 @@ protected:
     HRFResult<void> saveTags() override;
 
 private:
+    void readDIINTexts();
+
     /// Tests what TagLib cannot stand, and makes an engine.
     std::unique_ptr<TagLib::DSDIFF::File> m_tagFile;
     std::vector<TagLib::String> m_DIINTexts; ///< as they were read

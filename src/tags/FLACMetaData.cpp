@@ -27,7 +27,8 @@ const HRFEngineClass FLACMetaData::metadataClass{"FLACMetaData", fileTypes,
 FLACMetaData::FLACMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
     : VorbisMetaData(std::move(file))
 {
-    setTagFile(std::make_unique<FLAC::File>(&stream(), readProperties));
+    setTagFile(std::make_unique<FLAC::File>(&stream(), readProperties, AudioProperties::Average,
+                                            &m_frameFactory));
 }
 
 int FLACMetaData::preferredFLACArtworkStorageType()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tags/HRFFrameFactory.h"
 #include "tags/VorbisMetaData.h"
 
 #include <taglib/flacfile.h>
@@ -38,4 +39,6 @@ private:
 
     bool m_hasChangedPictures = false;
     bool m_isStripping = false;
+
+    HRFFrameFactory m_frameFactory; ///< of the ID3v2 tag that may stand before the stream
 };

@@ -93,6 +93,8 @@ qint64 HRFFileByteStore::readAt(qint64 offset, std::span<char> buffer)
 
 HRFResult<void> HRFFileByteStore::prepareWriting(qint64 newSize)
 {
+    if (m_writeDescriptor >= 0)
+        ::close(m_writeDescriptor);
     m_writeDescriptor = ::open(m_path.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
     if (m_writeDescriptor < 0)
         return lastError();
@@ -108,7 +110,7 @@ HRFResult<void> HRFFileByteStore::prepareWriting(qint64 newSize)
     if (failure == 0)
         return {};
     // Part of the room may have been made already.
-    if (::ftruncate(m_writeDescriptor, m_identity.size) != 0)
+    if (!finishWriting(m_identity.size))
         qWarning("Could not give back the room made at the end of %s", m_path.constData());
     return std::unexpected(HRFError::fromErrno(failure));
 }

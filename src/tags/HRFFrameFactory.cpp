@@ -112,6 +112,7 @@ ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
 void HRFFrameFactory::completeTag(ID3v2::Tag &tag) const
 {
     parseFrames(tag, std::exchange(m_unparsed, {}));
+    rebuildAggregateFrames(&tag);
     removeFoldedFrames(tag);
 }
 

@@ -62,11 +62,13 @@ bool hasContent(const QVariant &value)
 }
 
 /// Whether what an engine holds is what was set. Ratings are cut off at their largest value, web
-/// addresses are percent-encoded.
+/// addresses are percent-encoded, dates have whole seconds.
 bool holds(const QVariant &held, const QVariant &value, HRFTagKey key)
 {
     if (key == HRFTagKey::rating || key == HRFTagKey::website)
         return hasContent(held);
+    if (value.typeId() == QMetaType::QDateTime)
+        return held.toDateTime().toSecsSinceEpoch() == value.toDateTime().toSecsSinceEpoch();
     return held == value;
 }
 
@@ -250,13 +252,18 @@ HRFResult<void> HRFTagEngine::updateFile()
         if (hasContent(value) ? !holds(held, value, key) : hasContent(held))
             return std::unexpected(notKeptError(key));
     }
+    if (std::exchange(m_isSpoilt, true))
+        return std::unexpected(reasonError(tr("Saving it has failed before.")));
     if (auto saved = saveTags(); !saved)
         return saved;
-    if (values.empty() && stream().isUnchanged())
-        return {};
-    if (auto checked = checkSavedFile(values); !checked)
-        return checked;
-    return stream().commit();
+    if (!values.empty() || !stream().isUnchanged()) {
+        if (auto checked = checkSavedFile(values); !checked)
+            return checked;
+        if (auto committed = stream().commit(); !committed)
+            return committed;
+    }
+    m_isSpoilt = false;
+    return {};
 }
 
 /// Reads the tags that are about to be written and compares them with what was set: on damaged
@@ -267,9 +274,17 @@ HRFResult<void> HRFTagEngine::checkSavedFile(const std::map<HRFTagKey, QVariant>
     if (!written)
         return std::unexpected(reasonError(tr("The file would not be readable afterwards.")));
     for (const auto &[key, value] : values)
-        if ((*written)->readValue(key) != value)
+        if (const QVariant found = (*written)->readValue(key);
+            found != value && found != m_changes.at(key))
             return std::unexpected(notKeptError(key));
     return {};
+}
+
+void HRFTagEngine::startAnew()
+{
+    stream().discard();
+    m_changes.clear();
+    m_isSpoilt = false;
 }
 
 HRFError HRFTagEngine::reasonError(const QString &reason)

@@ -101,6 +101,8 @@ protected:
     [[nodiscard]] HRFResult<void> updateFile();
     /// The values set so far need not be in the file any more: its tags are gone.
     void forgetChanges() { m_changes.clear(); }
+    /// To be called by an engine that opens the file anew: whatever happened before is forgotten.
+    void startAnew();
     /// The error of a file that is not of the engine's format.
     HRFError contentsError() const;
     /// An error that only says why.
@@ -113,5 +115,7 @@ private:
     mutable std::recursive_mutex m_lock; ///< guards the tags and everything below
     std::shared_ptr<HRFTagStream> m_stream;
     HRFFileReference m_fileURL;
+    /// TagLib's idea of the file is wrong: a save went into the stream and not into the file.
+    bool m_isSpoilt = false;
     std::map<HRFTagKey, QVariant> m_changes; ///< the values set since the file was opened
 };

@@ -193,6 +193,7 @@ HRFResult<void> ID3MetaData::stripTags()
 {
     const Lock guard = lock();
     forgetChanges();
+    m_frameFactory.setObstacle({});
     ID3v2::Tag *tag = ID3V2Tag();
     if (!tag)
         return {};
@@ -237,10 +238,10 @@ qint64 ID3MetaData::ID3V2TagOffset() const
 HRFResult<void> ID3MetaData::prepareSaving(int version)
 {
     ID3v2::Tag *tag = ID3V2Tag();
-    if (!tag || tag->isEmpty())
-        return {};
     if (!m_frameFactory.obstacle().isEmpty())
         return std::unexpected(reasonError(m_frameFactory.obstacle()));
+    if (!tag || tag->isEmpty())
+        return {};
     if (version != 3)
         return {};
     if (ID3Version3::hasFramesToHide(*tag) && ID3V2TagOffset() < 0)

@@ -62,7 +62,7 @@ protected:
     QVariant readValue(HRFTagKey key) const override;
     void writeValue(const QVariant &value, HRFTagKey key) override;
 
-    TagLib::ID3v2::FrameFactory *frameFactory() { return &m_frameFactory; }
+    HRFFrameFactory *frameFactory() { return &m_frameFactory; }
     /// Readies the tag for being saved in the given version, 3 or 4.
     [[nodiscard]] HRFResult<void> prepareSaving(int version);
     /// Saves a file whose format always has ID3v2.4 tags.

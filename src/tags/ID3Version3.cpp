@@ -50,6 +50,10 @@ void moveToUserText(ID3v2::Tag &tag, HRFTagKey key)
     tag.removeFrames(frameID);
 }
 
+constexpr unsigned int yearLength = 4;
+constexpr unsigned int dateLength = 10;
+constexpr unsigned int dateTimeLength = 16;
+
 /// ID3v2.3 has a four-digit year, and day and time to the minute; a time that is none of these
 /// stays whole in a user text frame.
 void keepRecordingTime(ID3v2::Tag &tag)
@@ -58,8 +62,13 @@ void keepRecordingTime(ID3v2::Tag &tag)
     if (!frame)
         return;
     const String text = frame->toString();
-    constexpr unsigned int yearLength = 4;
-    constexpr std::array<unsigned int, 3> exactLengths = {4, 10, 16};
+    // TagLib makes these from the recording time; an ID3v2.4 tag has them by mistake.
+    tag.removeFrames("TYER");
+    if (text.size() >= dateLength)
+        tag.removeFrames("TDAT");
+    if (text.size() >= dateTimeLength)
+        tag.removeFrames("TIME");
+    constexpr std::array exactLengths = {yearLength, dateLength, dateTimeLength};
     if (text.size() < yearLength) {
         frame->setText(String(std::string(yearLength - text.size(), '0')) + text);
     } else if (std::ranges::find(exactLengths, text.size()) == exactLengths.end()) {

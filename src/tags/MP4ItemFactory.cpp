@@ -2,14 +2,26 @@
 
 #include <taglib/mp4atom.h>
 
+#include <cstring>
+#include <type_traits>
+
 using namespace TagLib;
 
 namespace {
 
+/// The data type as the file states it, which need not be one that the enumeration has.
+int dataType(const MP4::AtomData &value)
+{
+    std::underlying_type_t<MP4::AtomDataType> type{};
+    static_assert(sizeof type == sizeof value.type);
+    std::memcpy(&type, &value.type, sizeof type);
+    return static_cast<int>(type);
+}
+
 /// Well-known data types: QuickTime File Format, table "Well-known types".
 bool isText(const MP4::AtomData &value)
 {
-    switch (value.type) {
+    switch (dataType(value)) {
     case MP4::TypeUTF8:
     case MP4::TypeUTF16:
     case MP4::TypeURL:
@@ -23,7 +35,7 @@ bool isText(const MP4::AtomData &value)
 
 String text(const MP4::AtomData &value)
 {
-    if (value.type == MP4::TypeUTF16)
+    if (dataType(value) == MP4::TypeUTF16)
         return {value.data, String::UTF16BE};
     const String result(value.data, String::UTF8);
     // TagLib makes an empty text of what is not UTF-8.

@@ -69,11 +69,17 @@ const HRFEngineClass MPEGMetaData::metadataClass{
     &HRFMakeEngine<MPEGMetaData>};
 
 MPEGMetaData::MPEGMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
-    : APEUnionMetaData(std::move(file))
-    , m_saveTagTypes(enabledTagTypes())
-    , m_tagFile(std::make_unique<MPEG::File>(&stream(), readProperties, AudioProperties::Average,
-                                             frameFactory()))
+    : APEUnionMetaData(std::move(file)), m_saveTagTypes(enabledTagTypes())
 {
+    openTagFile(readProperties);
+}
+
+void MPEGMetaData::openTagFile(bool readProperties)
+{
+    frameFactory()->setObstacle({});
+    HRFRewind(stream());
+    m_tagFile = std::make_unique<MPEG::File>(&stream(), readProperties, AudioProperties::Average,
+                                             frameFactory());
 }
 
 /// TagLib takes any bytes for an MPEG file, and finds an ID3v2 tag also in the middle of them.
@@ -149,15 +155,22 @@ HRFResult<void> MPEGMetaData::saveTags()
     return {};
 }
 
+/// What was set before is gone with the tags, also from those that the file does not have: TagLib
+/// strips only what it has found in the file.
 HRFResult<void> MPEGMetaData::stripTags()
 {
     const Lock guard = lock();
-    forgetChanges();
+    const bool readsProperties = m_tagFile->audioProperties() != nullptr;
+    startAnew();
+    openTagFile(readsProperties);
     if (!canUpdateFile())
         return std::unexpected(HRFError::fromErrno(EACCES));
     if (!m_tagFile->strip(MPEG::File::AllTags))
         return std::unexpected(HRFError::fromErrno(EIO));
-    return stream().commit();
+    const HRFResult<void> committed = stream().commit();
+    startAnew();
+    openTagFile(readsProperties);
+    return committed;
 }
 
 QVariant MPEGMetaData::readValue(HRFTagKey key) const

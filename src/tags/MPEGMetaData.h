@@ -29,6 +29,7 @@ protected:
 private:
     bool mayCreateTag(int type) const;
     void takeOverSecondTag();
+    void openTagFile(bool readProperties);
 
     const int m_saveTagTypes; ///< the types that are switched on: they are created and saved
     std::unique_ptr<TagLib::MPEG::File> m_tagFile;

@@ -34,7 +34,6 @@ const HRFRawFrame foreignFrames[] = {
     {"GEOB",
      "\1application/x\0\xFF\xFEn\0\0\0\xFF\xFE"
      "d\0\0\0object"s},
-    {"GEOB", "\1application/x\0\xFE\xFF\0n\0\0\xFE\xFF\0d\0\0object"s},
     {"ETCO", "\2\3\0\0\1\0"s},
     {"SYLT", "\0eng\2\1words\0one\0\0\0\0\1"s},
     {"RVAD", "\3\x10\1\1\2\2"s},
@@ -43,7 +42,6 @@ const HRFRawFrame foreignFrames[] = {
     {"TXXX", "\0own\0first\0second"s},
     {"APIC", "\0image/jpeg\0\4back\0\xFF\xD8\xFF bytes"s},
     {"APIC", "\1image/jpeg\0\5\xFF\xFEz\1\0\0\xFF\xD8\xFF bytes"s},
-    {"APIC", "\1image/jpeg\0\6\xFE\xFF\1z\0\0\xFF\xD8\xFF bytes"s},
     {"APIC", "\0-->\0\7link\0http://a.b/c.png"s},
 };
 
