@@ -38,14 +38,13 @@ HRFResult<std::unique_ptr<HRFFileByteStore>> HRFFileByteStore::open(const HRFFil
     const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0)
         return lastError();
-    struct stat status = {};
-    const bool isRegular = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
-    const HRFResult<Identity> identity = identityOf(descriptor);
-    if (!isRegular || !identity) {
+    struct stat status{};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         ::close(descriptor);
         return std::unexpected(notRegularError());
     }
-    return std::unique_ptr<HRFFileByteStore>(new HRFFileByteStore(path, descriptor, *identity));
+    return std::unique_ptr<HRFFileByteStore>(
+        new HRFFileByteStore(path, descriptor, Identity::of(status)));
 }
 
 HRFFileByteStore::HRFFileByteStore(const QByteArray &path, int descriptor, const Identity &identity)
@@ -60,13 +59,18 @@ HRFFileByteStore::~HRFFileByteStore()
     ::close(m_readDescriptor);
 }
 
-HRFResult<HRFFileByteStore::Identity> HRFFileByteStore::identityOf(int descriptor)
+HRFFileByteStore::Identity HRFFileByteStore::Identity::of(const struct stat &status)
 {
-    struct stat status = {};
-    if (::fstat(descriptor, &status) != 0)
-        return lastError();
     return Identity{status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec,
                     status.st_mtim.tv_nsec};
+}
+
+HRFResult<HRFFileByteStore::Identity> HRFFileByteStore::identityOf(int descriptor)
+{
+    struct stat status{};
+    if (::fstat(descriptor, &status) != 0)
+        return lastError();
+    return Identity::of(status);
 }
 
 bool HRFFileByteStore::isWritable() const
@@ -131,9 +135,12 @@ HRFResult<void> HRFFileByteStore::writeAt(qint64 offset, std::span<const char> d
 
 HRFResult<void> HRFFileByteStore::finishWriting(qint64 newSize)
 {
-    if (::ftruncate(m_writeDescriptor, newSize) != 0)
-        return lastError();
-    const HRFResult<Identity> identity = identityOf(m_writeDescriptor);
+    HRFResult<Identity> identity = identityOf(m_writeDescriptor);
+    if (identity && identity->size != newSize) {
+        if (::ftruncate(m_writeDescriptor, newSize) != 0)
+            return lastError();
+        identity = identityOf(m_writeDescriptor);
+    }
     if (!identity)
         return std::unexpected(identity.error());
     m_identity = *identity;

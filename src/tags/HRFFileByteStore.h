@@ -6,6 +6,7 @@
 #include <ctime>
 #include <memory>
 #include <optional>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 /// The bytes of a regular file.
@@ -37,6 +38,7 @@ private:
         qint64 modifiedSeconds = 0;
         qint64 modifiedNanoseconds = 0;
 
+        static Identity of(const struct stat &status);
         friend bool operator==(const Identity &, const Identity &) = default;
     };
 

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 using namespace TagLib;
@@ -53,6 +54,17 @@ bool beginsWithEmptyFrame(const ByteVector &data, unsigned int version)
            });
 }
 
+/// Whether a frame, as most of them, has no format flags, nothing embedded and is no address.
+bool isPlainFrame(const ByteVector &data, unsigned int version)
+{
+    constexpr unsigned int headerSize = 10;
+    constexpr unsigned int formatFlagsOffset = 9;
+    if (version < 3 || data.size() < headerSize || data.data()[formatFlagsOffset] != '\0')
+        return false;
+    const std::string_view id(data.data(), 4);
+    return id != "CHAP" && id != "CTOC" && id != "WFED";
+}
+
 /// A podcast's address is text to TagLib, with an encoding byte in front; others write a plain URL.
 ID3v2::Frame *createURLFrame(const ByteVector &data, const ID3v2::Header *tagHeader)
 {
@@ -86,11 +98,12 @@ void removeFoldedFrames(ID3v2::Tag &tag)
 ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
                                            const ID3v2::Header *tagHeader) const
 {
-    if (ID3v2::Frame *frame = createURLFrame(data, tagHeader))
-        return frame;
     const unsigned int version = tagHeader->majorVersion();
+    const bool isPlain = isPlainFrame(data, version);
+    if (ID3v2::Frame *frame = isPlain ? nullptr : createURLFrame(data, tagHeader))
+        return frame;
     const ByteVector repaired = ID3RepairedFrame(data, version);
-    ID3v2::Frame *frame = m_check.isSafe(repaired, *tagHeader)
+    ID3v2::Frame *frame = isPlain || m_check.isSafe(repaired, *tagHeader)
         ? FrameFactory::createFrame(repaired, tagHeader)
         : nullptr;
     if (!frame) {

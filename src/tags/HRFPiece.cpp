@@ -4,12 +4,37 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <functional>
 #include <numeric>
 #include <ranges>
 #include <utility>
 
 namespace {
+
+constexpr qsizetype blockSize = 512;
+
+/// How many whole blocks, in bytes, are equal at the start.
+qsizetype equalStart(QByteArrayView left, QByteArrayView right)
+{
+    const qsizetype length = std::min(left.size(), right.size());
+    qsizetype count = 0;
+    while (count + blockSize <= length
+           && std::memcmp(left.data() + count, right.data() + count, blockSize) == 0)
+        count += blockSize;
+    return count;
+}
+
+/// The same at the end of views of one size.
+qsizetype equalEnd(QByteArrayView left, QByteArrayView right)
+{
+    qsizetype end = left.size();
+    while (end >= blockSize
+           && std::memcmp(left.data() + end - blockSize, right.data() + end - blockSize, blockSize)
+               == 0)
+        end -= blockSize;
+    return left.size() - end;
+}
 
 class PieceWriter
 {
@@ -128,15 +153,14 @@ HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
     if (!kept)
         return std::unexpected(std::move(kept.error()));
     QByteArrayView old(*kept);
-    const auto equal = std::ranges::mismatch(bytes, old).in1 - bytes.begin();
-    offset += equal;
-    bytes = bytes.sliced(equal);
-    old = old.sliced(equal);
+    const qsizetype start = equalStart(bytes, old);
+    offset += start;
+    bytes = bytes.sliced(start);
+    old = old.sliced(start);
     if (old.size() == bytes.size()) {
-        const auto end = std::mismatch(bytes.rbegin(), bytes.rend(), old.rbegin()).first;
-        const qsizetype differing = bytes.rend() - end;
-        bytes = bytes.first(differing);
-        old = old.first(differing);
+        const qsizetype end = equalEnd(bytes, old);
+        bytes.chop(end);
+        old.chop(end);
     }
     if (bytes.isEmpty())
         return {};

@@ -270,7 +270,7 @@ HRFResult<void> HRFTagEngine::updateFile()
 /// files TagLib can report success and keep nothing.
 HRFResult<void> HRFTagEngine::checkSavedFile(const std::map<HRFTagKey, QVariant> &values) const
 {
-    const auto written = engineClass().initWithStream(m_stream, false);
+    const auto written = engineClass().initWithStream(streamForReading(values), false);
     if (!written)
         return std::unexpected(reasonError(tr("The file would not be readable afterwards.")));
     for (const auto &[key, value] : values)
@@ -278,6 +278,12 @@ HRFResult<void> HRFTagEngine::checkSavedFile(const std::map<HRFTagKey, QVariant>
             found != value && found != m_changes.at(key))
             return std::unexpected(notKeptError(key));
     return {};
+}
+
+std::shared_ptr<HRFTagStream>
+HRFTagEngine::streamForReading(const std::map<HRFTagKey, QVariant> &) const
+{
+    return m_stream;
 }
 
 void HRFTagEngine::startAnew()

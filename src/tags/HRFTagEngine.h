@@ -97,6 +97,11 @@ protected:
     /// Lets TagLib save the tags into the stream.
     [[nodiscard]] virtual HRFResult<void> saveTags() = 0;
 
+    /// Where the given properties, just saved into the stream, can be read back from: the stream,
+    /// or a part of it that says as much.
+    virtual std::shared_ptr<HRFTagStream>
+    streamForReading(const std::map<HRFTagKey, QVariant> &values) const;
+
     /// Saves into the stream, checks the result and writes the file.
     [[nodiscard]] HRFResult<void> updateFile();
     /// The values set so far need not be in the file any more: its tags are gone.

@@ -67,7 +67,9 @@ void HRFTagStream::readStore(qint64 offset, std::span<char> buffer)
         const qint64 end = offset + qint64(buffer.size());
         if (offset < m_windowOffset || end > m_windowOffset + m_windowLength) {
             m_windowOffset = offset;
-            m_windowLength = m_store->readAt(offset, m_window);
+            const qint64 rest = std::max<qint64>(0, m_store->size() - offset);
+            const auto size = std::min(m_window.size(), std::size_t(rest));
+            m_windowLength = m_store->readAt(offset, std::span(m_window).first(size));
         }
         count = std::max<qint64>(0, std::min(end, m_windowOffset + m_windowLength) - offset);
         std::memcpy(buffer.data(), m_window.data() + (offset - m_windowOffset), std::size_t(count));

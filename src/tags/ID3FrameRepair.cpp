@@ -15,7 +15,7 @@ constexpr unsigned int headerSize = 10;
 constexpr unsigned int sizeOffset = 4;
 constexpr unsigned int formatFlagsOffset = 9;
 
-enum TextEncoding : char { Latin1 = 0, UTF16 = 1, UTF8 = 3 };
+enum TextEncoding : char { Latin1 = 0, UTF16 = 1, UTF16BE = 2, UTF8 = 3 };
 
 std::string_view frameID(const ByteVector &data)
 {
@@ -75,6 +75,26 @@ bool isValidUTF8(const ByteVector &text)
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString decoded = decoder(QByteArrayView(text.data(), qsizetype(text.size())));
     return !decoder.hasError() && !decoded.contains(QChar::ReplacementCharacter);
+}
+
+/// Whether nothing needs to be done, told for the most common texts without making copies.
+bool hasReadableText(const ByteVector &data, unsigned int size)
+{
+    const QByteArrayView content(data.data() + headerSize, qsizetype(size));
+    const auto isASCII = [](char character) { return static_cast<signed char>(character) >= 0; };
+    switch (content[0]) {
+    case Latin1:
+    case UTF16BE:
+        return true;
+    case UTF16:
+        return isText(frameID(data)) && size > 2
+            && (content.sliced(1).startsWith("\xFF\xFE")
+                || content.sliced(1).startsWith("\xFE\xFF"));
+    case UTF8:
+        return std::ranges::all_of(content, isASCII);
+    default:
+        return false;
+    }
 }
 
 /// The mark for text without one: little endian, unless the text looks like the other.
@@ -151,6 +171,9 @@ ByteVector ID3RepairedFrame(const ByteVector &data, unsigned int version)
     const bool hasText = isText(frameID(data)) || isTextWithLanguage(frameID(data));
     const unsigned int groupOffset = groupByteOffset(data, version);
     if (!hasText && groupOffset == 0)
+        return data;
+
+    if (groupOffset == 0 && hasReadableText(data, size))
         return data;
 
     ByteVector frame = data.mid(0, headerSize + size);

@@ -2,6 +2,7 @@
 
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFTagStream.h"
+#include "tags/ID3TagExcerpt.h"
 #include "tags/ID3Version3.h"
 #include "tags/MPEGCheck.h"
 
@@ -153,6 +154,22 @@ HRFResult<void> MPEGMetaData::saveTags()
     if (version == ID3v2::v3 && ID3V2TagOffset() == 0)
         ID3Version3::revealFrames(stream(), 0);
     return {};
+}
+
+/// When there is only an ID3v2 tag, the frames of the properties are enough.
+std::shared_ptr<HRFTagStream>
+MPEGMetaData::streamForReading(const std::map<HRFTagKey, QVariant> &values) const
+{
+    // Several properties read from these, whatever their own frame is.
+    std::set<std::string_view> frameIDs = {"TXXX", "TDRC", "TYER", "TDAT", "TIME",
+                                           "TORY", "TDOR", "IPLS", "TIPL"};
+    for (const auto &[key, value] : values)
+        if (const char *frameID = ID3FrameForKey(key))
+            frameIDs.insert(frameID);
+    if (m_saveTagTypes == MPEG::File::ID3v2 && !values.empty())
+        if (auto excerpt = ID3TagExcerpt(stream(), frameIDs))
+            return excerpt;
+    return APEUnionMetaData::streamForReading(values);
 }
 
 /// What was set before is gone with the tags, also from those that the file does not have: TagLib

@@ -25,6 +25,8 @@ protected:
     const HRFEngineClass &engineClass() const override { return metadataClass; }
     TagLib::File *tagFile() const override { return m_tagFile.get(); }
     HRFResult<void> saveTags() override;
+    std::shared_ptr<HRFTagStream>
+    streamForReading(const std::map<HRFTagKey, QVariant> &values) const override;
 
 private:
     bool mayCreateTag(int type) const;
