@@ -257,10 +257,15 @@ TEST_P(Conformance, HoldsAnyPicture)
     }
 }
 
+/// What the engine is to leave alone must be put into the file by TagLib first.
+constexpr const char *unpreparable =
+    "TagLib's own save makes this stream unreadable: it forgets that "
+    "the comment was the last metadata block";
+
 TEST_P(Conformance, ReplacesTheFirstOfSeveralPictures)
 {
     if (isBrokenByTagLib())
-        GTEST_SKIP();
+        GTEST_SKIP() << unpreparable;
     TagLib::List<TagLib::VariantMap> pictures;
     for (const char *data : {"first", "second", "third"}) {
         TagLib::VariantMap picture;
@@ -285,7 +290,7 @@ TEST_P(Conformance, ReplacesTheFirstOfSeveralPictures)
 TEST_P(Conformance, LeavesForeignFieldsAlone)
 {
     if (isBrokenByTagLib())
-        GTEST_SKIP();
+        GTEST_SKIP() << unpreparable;
     {
         TagLib::FileRef native(file.path().constData());
         TagLib::PropertyMap properties = native.properties();
