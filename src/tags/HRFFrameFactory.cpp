@@ -1,5 +1,6 @@
 #include "tags/HRFFrameFactory.h"
 
+#include "tags/ID3FrameHeader.h"
 #include "tags/ID3FrameRepair.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -33,13 +35,22 @@ constexpr Renaming renamings[] = {
     {"TDA", "TDAT"}, {"TIM", "TIME"}, {"TSI", "TSIZ"}, {"RVA", "RVAD"}, {"EQU", "EQUA"},
 };
 
-void renameVersion2Frame(ID3v2::Frame &frame)
+/// There are ID3v2.3 tags with the three-letter identifiers of ID3v2.2 in the field.
+bool hasVersion2Identifier(const ByteVector &data, unsigned int version)
+{
+    return version < 3 || data[3] == '\0';
+}
+
+/// Answers whether a frame with an identifier of ID3v2.2 has one of later versions now.
+bool takesLaterIdentifier(ID3v2::Frame &frame)
 {
     const ByteVector id = frame.frameID();
     const auto *renaming = std::ranges::find_if(
         renamings, [&id](const Renaming &candidate) { return id == candidate.version2; });
-    if (renaming != std::end(renamings))
-        frame.header()->setFrameID(renaming->version3);
+    if (renaming == std::end(renamings))
+        return id.size() > 3;
+    frame.header()->setFrameID(renaming->version3);
+    return true;
 }
 
 /// Whether a frame with a well-formed identifier but without content begins here.
@@ -57,12 +68,11 @@ bool beginsWithEmptyFrame(const ByteVector &data, unsigned int version)
 /// Whether a frame, as most of them, has no format flags, nothing embedded and is no address.
 bool isPlainFrame(const ByteVector &data, unsigned int version)
 {
-    constexpr unsigned int headerSize = 10;
-    constexpr unsigned int formatFlagsOffset = 9;
-    if (version < 3 || data.size() < headerSize || data.data()[formatFlagsOffset] != '\0')
+    if (version < 3 || data.size() < ID3FrameHeader::length)
         return false;
-    const std::string_view id(data.data(), 4);
-    return id != "CHAP" && id != "CTOC" && id != "WFED";
+    const ID3FrameHeader header(data.data(), version);
+    const std::string_view id = header.frameID();
+    return header.formatFlags() == 0 && id != "CHAP" && id != "CTOC" && id != "WFED";
 }
 
 /// A podcast's address is text to TagLib, with an encoding byte in front; others write a plain URL.
@@ -102,21 +112,21 @@ ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
     const bool isPlain = isPlainFrame(data, version);
     if (ID3v2::Frame *frame = isPlain ? nullptr : createURLFrame(data, tagHeader))
         return frame;
-    const ByteVector repaired = ID3RepairedFrame(data, version);
-    ID3v2::Frame *frame = isPlain || m_check.isSafe(repaired, *tagHeader)
-        ? FrameFactory::createFrame(repaired, tagHeader)
+    const std::optional<ByteVector> repaired = ID3RepairedFrame(data, version);
+    const ByteVector &readable = repaired ? *repaired : data;
+    ID3v2::Frame *frame = isPlain || m_check.isSafe(readable, *tagHeader)
+        ? FrameFactory::createFrame(readable, tagHeader)
         : nullptr;
     if (!frame) {
         m_unparsed = data;
         return nullptr;
     }
     // The parser goes on behind as many bytes as the frame says it has.
-    if (repaired.size() != data.size())
+    if (repaired)
         frame->header()->setFrameSize(ID3v2::Frame::Header(data, version).frameSize());
     if (frame->header()->encryption())
         m_obstacle = tr("Its ID3v2 tag has encrypted frames.");
-    renameVersion2Frame(*frame);
-    if (frame->frameID().size() < 4)
+    if (hasVersion2Identifier(data, version) && !takesLaterIdentifier(*frame))
         m_obstacle = tr("Its ID3v2.2 tag has frames that later versions lack.");
     frame->header()->setTagAlterPreservation(false);
     return frame;

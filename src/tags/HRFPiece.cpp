@@ -147,7 +147,7 @@ void PieceWriter::restoreOnFailure(qint64 offset, const QByteArray &old)
 /// Only what differs is written: most of a saved tag is as it was.
 HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
 {
-    QByteArrayView bytes(placed.piece->bytes);
+    QByteArrayView bytes(placed.piece->bytes.data(), qsizetype(placed.piece->bytes.size()));
     qint64 offset = placed.offset;
     auto kept = readOld(offset, bytes.size());
     if (!kept)

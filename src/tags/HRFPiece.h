@@ -2,7 +2,7 @@
 
 #include "tags/HRFByteStore.h"
 
-#include <QByteArray>
+#include <taglib/tbytevector.h>
 
 #include <vector>
 
@@ -11,7 +11,7 @@ struct HRFPiece
 {
     qint64 source = 0; ///< offset in the store; not used for new bytes
     qint64 length = 0;
-    QByteArray bytes{}; ///< new bytes, or empty
+    TagLib::ByteVector bytes{}; ///< new bytes, or empty
     bool isNew = false;
 };
 

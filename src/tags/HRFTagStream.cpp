@@ -39,21 +39,28 @@ TagLib::ByteVector HRFTagStream::readBlock(std::size_t length)
     if (count == 0)
         return {};
     TagLib::ByteVector result(static_cast<unsigned int>(count));
-    std::span<char> buffer(result.data(), std::size_t(count));
-    for (Cursor cursor = locate(m_position); !buffer.empty(); ++cursor.index) {
+    m_position += qint64(readAt(m_position, {result.data(), std::size_t(count)}));
+    return result;
+}
+
+std::size_t HRFTagStream::readAt(qint64 offset, std::span<char> buffer)
+{
+    const qint64 available = std::max<qint64>(0, m_length - offset);
+    std::span<char> rest = buffer.first(std::min(buffer.size(), std::size_t(available)));
+    const std::size_t count = rest.size();
+    for (Cursor cursor = locate(offset); !rest.empty(); ++cursor.index) {
         const HRFPiece &piece = m_pieces[cursor.index];
-        const qint64 skipped = m_position - cursor.start;
-        const auto part =
-            buffer.first(std::min(buffer.size(), std::size_t(piece.length - skipped)));
+        const qint64 skipped = offset - cursor.start;
+        const auto part = rest.first(std::min(rest.size(), std::size_t(piece.length - skipped)));
         if (piece.isNew)
-            std::memcpy(part.data(), piece.bytes.constData() + skipped, part.size());
+            std::memcpy(part.data(), piece.bytes.data() + skipped, part.size());
         else
             readStore(piece.source + skipped, part);
-        m_position += qint64(part.size());
-        buffer = buffer.subspan(part.size());
+        offset += qint64(part.size());
+        rest = rest.subspan(part.size());
         cursor.start += piece.length;
     }
-    return result;
+    return count;
 }
 
 /// Small reads come from a window, since parsers read a few bytes here and there. Bytes that cannot
@@ -80,14 +87,14 @@ void HRFTagStream::readStore(qint64 offset, std::span<char> buffer)
 
 void HRFTagStream::writeBlock(const TagLib::ByteVector &data)
 {
-    replace(m_position, qint64(data.size()), {data.data(), data.size()});
+    replace(m_position, qint64(data.size()), data);
     m_position += qint64(data.size());
 }
 
 void HRFTagStream::insert(const TagLib::ByteVector &data, TagLib::offset_t start,
                           std::size_t replaced)
 {
-    replace(start, qint64(std::min<std::size_t>(replaced, INT64_MAX)), {data.data(), data.size()});
+    replace(start, qint64(std::min<std::size_t>(replaced, INT64_MAX)), data);
     m_position = start + qint64(data.size());
 }
 
@@ -106,11 +113,11 @@ void HRFTagStream::truncate(TagLib::offset_t length)
 
 /// Puts @p data in the place of the given range. A range that begins behind the end is preceded by
 /// zeros, as in a file.
-void HRFTagStream::replace(qint64 start, qint64 length, std::span<const char> data)
+void HRFTagStream::replace(qint64 start, qint64 length, const TagLib::ByteVector &data)
 {
-    if (start > m_length) {
-        const QByteArray zeros(start - m_length, '\0');
-        replace(m_length, 0, {zeros.constData(), std::size_t(zeros.size())});
+    while (start > m_length) {
+        const qint64 count = std::min<qint64>(start - m_length, INT_MAX);
+        replace(m_length, 0, TagLib::ByteVector(static_cast<unsigned int>(count), '\0'));
     }
     length = std::min(length, m_length - start);
     const std::size_t first = splitAt(start);
@@ -119,18 +126,17 @@ void HRFTagStream::replace(qint64 start, qint64 length, std::span<const char> da
         m_pieces.erase(m_pieces.begin() + qsizetype(first), m_pieces.begin() + qsizetype(last));
     m_length += qint64(data.size()) - length;
     m_cursor = {first, start};
-    if (data.empty())
+    if (data.isEmpty())
         return;
     // Writing on behind new bytes is common (one number after the other) and makes no new piece.
-    if (first > 0 && m_pieces[first - 1].isNew) {
-        m_pieces[first - 1].bytes.append(data.data(), qsizetype(data.size()));
-        m_pieces[first - 1].length += qint64(data.size());
+    HRFPiece *before = first > 0 ? &m_pieces[first - 1] : nullptr;
+    if (before && before->isNew && before->length + qint64(data.size()) <= INT_MAX) {
+        before->bytes.append(data);
+        before->length += qint64(data.size());
         m_cursor.start += qint64(data.size());
     } else {
         m_pieces.insert(erased,
-                        HRFPiece{.length = qint64(data.size()),
-                                 .bytes = QByteArray(data.data(), qsizetype(data.size())),
-                                 .isNew = true});
+                        HRFPiece{.length = qint64(data.size()), .bytes = data, .isNew = true});
     }
 }
 
@@ -156,9 +162,12 @@ std::size_t HRFTagStream::splitAt(qint64 offset)
     HRFPiece tail = piece;
     tail.source += head;
     tail.length -= head;
-    tail.bytes = piece.bytes.mid(head);
-    piece.bytes.truncate(head);
     piece.length = head;
+    if (piece.isNew) {
+        const auto headSize = static_cast<unsigned int>(head);
+        tail.bytes = piece.bytes.mid(headSize);
+        piece.bytes = piece.bytes.mid(0, headSize);
+    }
     m_pieces.insert(m_pieces.begin() + qsizetype(cursor.index) + 1, std::move(tail));
     return cursor.index + 1;
 }

@@ -28,6 +28,11 @@ public:
     /// Whether bytes could not be read, so that what was read is not what the file holds.
     bool hasReadFailed() const { return m_hasReadFailed; }
 
+    /// Fills the buffer with the present contents from the given offset on, as far as they reach.
+    ///
+    /// @return how many bytes there are
+    std::size_t readAt(qint64 offset, std::span<char> buffer);
+
     TagLib::FileName name() const override { return m_store->name().constData(); }
     TagLib::ByteVector readBlock(std::size_t length) override;
     void writeBlock(const TagLib::ByteVector &data) override;
@@ -42,7 +47,7 @@ public:
     void truncate(TagLib::offset_t length) override;
 
 private:
-    void replace(qint64 start, qint64 length, std::span<const char> data);
+    void replace(qint64 start, qint64 length, const TagLib::ByteVector &data);
     /// A piece by its index, with the offset at which it begins in the present contents.
     struct Cursor
     {

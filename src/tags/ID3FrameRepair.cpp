@@ -1,6 +1,9 @@
 #include "tags/ID3FrameRepair.h"
 
+#include "tags/ID3FrameHeader.h"
+
 #include <QStringDecoder>
+#include <taglib/id3v2frame.h>
 #include <taglib/id3v2synchdata.h>
 
 #include <algorithm>
@@ -11,21 +14,18 @@ using namespace TagLib;
 
 namespace {
 
-constexpr unsigned int headerSize = 10;
-constexpr unsigned int sizeOffset = 4;
-constexpr unsigned int formatFlagsOffset = 9;
+constexpr unsigned int headerSize = ID3FrameHeader::length;
 
 enum TextEncoding : char { Latin1 = 0, UTF16 = 1, UTF16BE = 2, UTF8 = 3 };
 
-std::string_view frameID(const ByteVector &data)
+/// Larger sizes mean different things in ID3v2.3 and ID3v2.4, which some writers mix up: TagLib
+/// finds out.
+unsigned int frameSize(const ByteVector &data, const ID3FrameHeader &header, unsigned int version)
 {
-    return {data.data(), 4};
-}
-
-unsigned int frameSize(const ByteVector &data, unsigned int version)
-{
-    return version == 4 ? ID3v2::SynchData::toUInt(data.mid(sizeOffset, 4))
-                        : data.toUInt(sizeOffset);
+    constexpr unsigned int largestCertainSize = 127;
+    return header.frameSize() <= largestCertainSize
+        ? header.frameSize()
+        : ID3v2::Frame::Header(data, version).frameSize();
 }
 
 ByteVector withFrameSize(ByteVector frame, unsigned int version)
@@ -33,14 +33,13 @@ ByteVector withFrameSize(ByteVector frame, unsigned int version)
     const unsigned int size = frame.size() - headerSize;
     const ByteVector bytes =
         version == 4 ? ID3v2::SynchData::fromUInt(size) : ByteVector::fromUInt(size);
-    std::copy(bytes.begin(), bytes.end(), frame.begin() + sizeOffset);
+    std::copy(bytes.begin(), bytes.end(), frame.begin() + ID3FrameHeader::sizeOffset);
     return frame;
 }
 
 /// Where the byte of the frame's group stands; 0 when there is none.
-unsigned int groupByteOffset(const ByteVector &data, unsigned int version)
+unsigned int groupByteOffset(unsigned char flags, unsigned int version)
 {
-    const auto flags = static_cast<unsigned char>(data[formatFlagsOffset]);
     if (version == 4)
         return (flags & 0x40) != 0 ? headerSize : 0;
     if ((flags & 0x20) == 0)
@@ -53,7 +52,8 @@ ByteVector withoutGroupByte(const ByteVector &frame, unsigned int offset, unsign
     ByteVector result = frame.mid(0, offset);
     result.append(frame.mid(offset + 1));
     const char groupFlag = version == 4 ? 0x40 : 0x20;
-    result[formatFlagsOffset] = static_cast<char>(result[formatFlagsOffset] & ~groupFlag);
+    char &flags = result[ID3FrameHeader::formatFlagsOffset];
+    flags = static_cast<char>(flags & ~groupFlag);
     return withFrameSize(result, version);
 }
 
@@ -78,16 +78,15 @@ bool isValidUTF8(const ByteVector &text)
 }
 
 /// Whether nothing needs to be done, told for the most common texts without making copies.
-bool hasReadableText(const ByteVector &data, unsigned int size)
+bool hasReadableText(std::string_view frameID, QByteArrayView content)
 {
-    const QByteArrayView content(data.data() + headerSize, qsizetype(size));
     const auto isASCII = [](char character) { return static_cast<signed char>(character) >= 0; };
     switch (content[0]) {
     case Latin1:
     case UTF16BE:
         return true;
     case UTF16:
-        return isText(frameID(data)) && size > 2
+        return isText(frameID) && content.size() > 2
             && (content.sliced(1).startsWith("\xFF\xFE")
                 || content.sliced(1).startsWith("\xFE\xFF"));
     case UTF8:
@@ -137,10 +136,9 @@ ByteVector withEncodingByte(const ByteVector &frame, unsigned int version)
     return withFrameSize(result, version);
 }
 
-ByteVector withReadableText(const ByteVector &frame, unsigned int version)
+ByteVector withReadableText(const ByteVector &frame, bool hasLanguage, unsigned int version)
 {
     constexpr unsigned int languageSize = 3;
-    const bool hasLanguage = isTextWithLanguage(frameID(frame));
     const unsigned int text = headerSize + 1 + (hasLanguage ? languageSize : 0);
     const char encoding = frame[headerSize];
     if (encoding < Latin1 || encoding > UTF8) {
@@ -161,26 +159,28 @@ ByteVector withReadableText(const ByteVector &frame, unsigned int version)
 
 } // namespace
 
-ByteVector ID3RepairedFrame(const ByteVector &data, unsigned int version)
+std::optional<ByteVector> ID3RepairedFrame(const ByteVector &data, unsigned int version)
 {
     if (version < 3 || data.size() <= headerSize)
-        return data;
-    const unsigned int size = frameSize(data, version);
-    if (size == 0 || size > data.size() - headerSize)
-        return data;
-    const bool hasText = isText(frameID(data)) || isTextWithLanguage(frameID(data));
-    const unsigned int groupOffset = groupByteOffset(data, version);
+        return {};
+    const ID3FrameHeader header(data.data(), version);
+    const bool hasLanguage = isTextWithLanguage(header.frameID());
+    const bool hasText = hasLanguage || isText(header.frameID());
+    const unsigned int groupOffset = groupByteOffset(header.formatFlags(), version);
     if (!hasText && groupOffset == 0)
-        return data;
-
-    if (groupOffset == 0 && hasReadableText(data, size))
-        return data;
+        return {};
+    const unsigned int size = frameSize(data, header, version);
+    if (size == 0 || size > data.size() - headerSize)
+        return {};
+    if (groupOffset == 0
+        && hasReadableText(header.frameID(), {data.data() + headerSize, qsizetype(size)}))
+        return {};
 
     ByteVector frame = data.mid(0, headerSize + size);
     if (groupOffset != 0 && groupOffset < frame.size())
         frame = withoutGroupByte(frame, groupOffset, version);
     // What is compressed, encrypted or unsynchronised is left to TagLib.
-    if (!hasText || frame[formatFlagsOffset] != '\0' || frame.size() <= headerSize)
+    if (!hasText || frame[ID3FrameHeader::formatFlagsOffset] != '\0' || frame.size() <= headerSize)
         return frame;
-    return withReadableText(frame, version);
+    return withReadableText(frame, hasLanguage, version);
 }

@@ -2,6 +2,8 @@
 
 #include <taglib/tbytevector.h>
 
+#include <optional>
+
 /// One frame as a whole, made such that TagLib reads the words in it.
 ///
 /// Writers in the field break the format in a few common ways, and TagLib then reads nothing or
@@ -11,6 +13,6 @@
 ///
 /// @param data bytes that begin with the frame's header
 /// @param version the tag's major version
-/// @return @p data itself when there is nothing to repair; else only the frame, whose size may
-/// differ
-TagLib::ByteVector ID3RepairedFrame(const TagLib::ByteVector &data, unsigned int version);
+/// @return nothing when there is nothing to repair; else only the frame, whose size may differ
+std::optional<TagLib::ByteVector> ID3RepairedFrame(const TagLib::ByteVector &data,
+                                                   unsigned int version);

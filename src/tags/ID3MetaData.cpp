@@ -12,9 +12,11 @@
 #include <taglib/textidentificationframe.h>
 #include <taglib/tfile.h>
 
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <set>
+#include <string_view>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -231,8 +233,9 @@ void ID3MetaData::readBehindExtendedHeader(ID3v2::Tag &tag)
 
 qint64 ID3MetaData::ID3V2TagOffset() const
 {
-    stream().seek(0, IOStream::Beginning);
-    return stream().readBlock(3) == ID3v2::Header::fileIdentifier() ? 0 : -1;
+    std::array<char, 3> start{};
+    stream().readAt(0, start);
+    return std::string_view(start.data(), start.size()) == "ID3" ? 0 : -1;
 }
 
 HRFResult<void> ID3MetaData::prepareSaving(int version)

@@ -1,17 +1,20 @@
 #include "tags/ID3TagExcerpt.h"
 
 #include "tags/HRFTagStream.h"
+#include "tags/ID3FrameHeader.h"
 
 #include <taglib/id3v2synchdata.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 
 using namespace TagLib;
 
 namespace {
 
-constexpr unsigned int headerSize = 10; ///< of the tag and of every frame
+constexpr unsigned int headerSize = ID3FrameHeader::length; ///< the tag's own has the same
+using Header = std::array<char, headerSize>;
 
 /// Bytes that are only read.
 class ExcerptStore : public HRFByteStore
@@ -42,10 +45,19 @@ private:
     QByteArray m_bytes;
 };
 
-bool isPlainHeader(const ByteVector &header)
+bool isPlainHeader(const Header &header)
 {
-    return header.size() == headerSize && header.startsWith("ID3")
-        && (header[3] == 3 || header[3] == 4) && header[5] == '\0';
+    return std::string_view(header.data(), 3) == "ID3" && (header[3] == 3 || header[3] == 4)
+        && header[5] == '\0';
+}
+
+/// Puts a tag header before the frames, and padding behind them.
+QByteArray tagWithFrames(Header header, QByteArray frames)
+{
+    frames.append(headerSize, '\0');
+    const ByteVector size = ID3v2::SynchData::fromUInt(static_cast<unsigned int>(frames.size()));
+    std::copy(size.begin(), size.end(), header.end() - 4);
+    return frames.prepend(header.data(), header.size());
 }
 
 } // namespace
@@ -53,34 +65,29 @@ bool isPlainHeader(const ByteVector &header)
 std::shared_ptr<HRFTagStream> ID3TagExcerpt(HRFTagStream &stream,
                                             const std::set<std::string_view> &frameIDs)
 {
-    stream.seek(0, IOStream::Beginning);
-    const ByteVector header = stream.readBlock(headerSize);
-    if (!isPlainHeader(header))
+    Header header{};
+    if (stream.readAt(0, header) != headerSize || !isPlainHeader(header))
         return nullptr;
-    const qint64 end = headerSize + qint64(ID3v2::SynchData::toUInt(header.mid(6, 4)));
+    const qint64 end = headerSize + qint64(ID3SynchSafeSize(header.data() + 6));
     if (end > stream.length())
         return nullptr;
-    QByteArray excerpt;
+    QByteArray frames;
     for (qint64 offset = headerSize; offset + headerSize < end;) {
-        stream.seek(offset, IOStream::Beginning);
-        const ByteVector frame = stream.readBlock(headerSize);
-        if (frame.data()[0] == '\0')
+        Header bytes{};
+        stream.readAt(offset, bytes);
+        const ID3FrameHeader frame(bytes.data(), static_cast<unsigned char>(header[3]));
+        if (frame.isPadding())
             break;
-        const ByteVector sizeBytes = frame.mid(4, 4);
-        const qint64 frameSize =
-            header[3] == 4 ? ID3v2::SynchData::toUInt(sizeBytes) : sizeBytes.toUInt();
-        offset += headerSize + frameSize;
-        if (frameSize == 0 || offset > end)
+        const qint64 size = headerSize + qint64(frame.frameSize());
+        if (frame.frameSize() == 0 || offset + size > end)
             return nullptr;
-        if (!frameIDs.contains({frame.data(), 4}))
-            continue;
-        const ByteVector content = stream.readBlock(std::size_t(frameSize));
-        excerpt.append(frame.data(), frame.size()).append(content.data(), content.size());
+        if (frameIDs.contains(frame.frameID())) {
+            const qsizetype known = frames.size();
+            frames.resize(known + size);
+            stream.readAt(offset, {frames.data() + known, std::size_t(size)});
+        }
+        offset += size;
     }
-    excerpt.append(headerSize, '\0');
-    const ByteVector sizeBytes =
-        ID3v2::SynchData::fromUInt(static_cast<unsigned int>(excerpt.size()));
-    excerpt.prepend(sizeBytes.data(), sizeBytes.size());
-    excerpt.prepend(header.data(), headerSize - 4);
-    return std::make_shared<HRFTagStream>(std::make_unique<ExcerptStore>(std::move(excerpt)));
+    return std::make_shared<HRFTagStream>(
+        std::make_unique<ExcerptStore>(tagWithFrames(header, std::move(frames))));
 }

@@ -2,8 +2,8 @@
 
 #include "tags/HRFTagEngine.h"
 #include "tags/HRFTagStream.h"
+#include "tags/ID3FrameHeader.h"
 
-#include <taglib/id3v2synchdata.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/textidentificationframe.h>
 
@@ -147,23 +147,24 @@ void prepare(ID3v2::Tag &tag)
 
 void revealFrames(HRFTagStream &stream, qint64 tagOffset)
 {
-    constexpr unsigned int headerSize = 10;
-    stream.seek(tagOffset, IOStream::Beginning);
-    const ByteVector header = stream.readBlock(headerSize);
-    const qint64 end = tagOffset + headerSize + ID3v2::SynchData::toUInt(header.mid(6, 4));
-    for (qint64 offset = tagOffset + headerSize; offset + headerSize < end;) {
-        stream.seek(offset, IOStream::Beginning);
-        const ByteVector frame = stream.readBlock(headerSize);
-        if (frame.size() < headerSize || frame[0] == '\0')
+    std::array<char, ID3FrameHeader::length> header{};
+    stream.readAt(tagOffset, header);
+    const qint64 end = tagOffset + qint64(header.size()) + ID3SynchSafeSize(header.data() + 6);
+    for (qint64 offset = tagOffset + qint64(header.size()); offset < end;) {
+        if (stream.readAt(offset, header) < header.size())
             return;
-        const ByteVector id = frame.mid(0, 4);
-        const auto *names = std::ranges::find_if(
-            hiddenFrames, [&id](const HiddenFrame &candidate) { return id == candidate.hidden; });
+        const ID3FrameHeader frame(header.data(), 3);
+        if (frame.isPadding())
+            return;
+        const auto *names =
+            std::ranges::find_if(hiddenFrames, [&frame](const HiddenFrame &candidate) {
+                return frame.frameID() == candidate.hidden;
+            });
         if (names != std::end(hiddenFrames)) {
             stream.seek(offset, IOStream::Beginning);
             stream.writeBlock(ByteVector(names->frameID, 4));
         }
-        offset += headerSize + frame.toUInt(4U);
+        offset += qint64(header.size()) + frame.frameSize();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFTagStream.h"
+#include "tags/ID3Fields.h"
 #include "tags/ID3TagExcerpt.h"
 #include "tags/ID3Version3.h"
 #include "tags/MPEGCheck.h"
@@ -15,6 +16,9 @@
 #include <taglib/xingheader.h>
 
 #include <cerrno>
+#include <iterator>
+#include <set>
+#include <string_view>
 
 using namespace TagLib;
 using namespace Qt::StringLiterals;
@@ -86,13 +90,13 @@ void MPEGMetaData::openTagFile(bool readProperties)
 /// TagLib takes any bytes for an MPEG file, and finds an ID3v2 tag also in the middle of them.
 HRFResult<void> MPEGMetaData::checkFile()
 {
-    const bool hasTag = m_tagFile->hasID3v1Tag() || m_tagFile->hasAPETag()
-        || (m_tagFile->hasID3v2Tag() && ID3V2TagOffset() == 0);
+    const bool beginsWithTag = m_tagFile->hasID3v2Tag() && ID3V2TagOffset() == 0;
+    const bool hasTag = beginsWithTag || m_tagFile->hasID3v1Tag() || m_tagFile->hasAPETag();
     if (!hasTag && !MPEGHasAudio(*m_tagFile))
         return std::unexpected(contentsError());
     if (auto checked = APEUnionMetaData::checkFile(); !checked)
         return checked;
-    if (m_tagFile->hasID3v2Tag() && ID3V2TagOffset() == 0)
+    if (beginsWithTag)
         takeOverSecondTag();
     return {};
 }
@@ -160,12 +164,16 @@ HRFResult<void> MPEGMetaData::saveTags()
 std::shared_ptr<HRFTagStream>
 MPEGMetaData::streamForReading(const std::map<HRFTagKey, QVariant> &values) const
 {
-    // Several properties read from these, whatever their own frame is.
-    std::set<std::string_view> frameIDs = {"TXXX", "TDRC", "TYER", "TDAT", "TIME",
-                                           "TORY", "TDOR", "IPLS", "TIPL"};
-    for (const auto &[key, value] : values)
+    // Properties that are more than the text of their own frame may read from these.
+    constexpr std::string_view sharedFrameIDs[] = {"TXXX", "TDRC", "TYER", "TDAT", "TIME",
+                                                   "TORY", "TDOR", "IPLS", "TIPL"};
+    std::set<std::string_view> frameIDs;
+    for (const auto &[key, value] : values) {
         if (const char *frameID = ID3FrameForKey(key))
             frameIDs.insert(frameID);
+        if (ID3FieldHandlerForKey(key) || ID3Version3::isKeptAsUserText(key))
+            frameIDs.insert(std::begin(sharedFrameIDs), std::end(sharedFrameIDs));
+    }
     if (m_saveTagTypes == MPEG::File::ID3v2 && !values.empty())
         if (auto excerpt = ID3TagExcerpt(stream(), frameIDs))
             return excerpt;
