@@ -1,6 +1,8 @@
 #include "corpus/HRFCorpusKind.h"
 
+#include "corpus/HRFCorpusFLAC.h"
 #include "corpus/HRFCorpusID3.h"
+#include "corpus/HRFCorpusMP4.h"
 #include "corpus/HRFCorpusMPEG.h"
 
 #include <algorithm>
@@ -17,9 +19,16 @@ std::string mp3Contents(const HRFCorpusAlbum &album, const HRFCorpusTrack &track
     return HRFMakeCorpusID3(album, track, Version) + HRFMakeCorpusMPEG(album.bitRate, audioSize);
 }
 
+template <auto Make> std::string contents(const HRFCorpusAlbum &album, const HRFCorpusTrack &track)
+{
+    return Make(album, track, audioSize);
+}
+
 constexpr HRFCorpusKind kinds[] = {
-    {"mp3", 2, mp3Contents<HRFCorpusID3Version::v4>},
-    {"mp3", 1, mp3Contents<HRFCorpusID3Version::v3>},
+    {"mp3", 5, mp3Contents<HRFCorpusID3Version::v4>},
+    {"flac", 2, contents<HRFMakeCorpusFLAC>},
+    {"mp3", 2, mp3Contents<HRFCorpusID3Version::v3>},
+    {"m4a", 1, contents<HRFMakeCorpusMP4>},
 };
 
 constexpr int sharesTotal =

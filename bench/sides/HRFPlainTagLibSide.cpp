@@ -1,12 +1,19 @@
 #include "sides/HRFBenchSide.h"
 
+// clang-format off
+// In this order: <mp4atom.h> means TagLib::File where TagLib::MP4::File is not declared yet.
+#include <taglib/mp4atom.h>
+#include <taglib/mp4file.h>
+// clang-format on
 #include <taglib/attachedpictureframe.h>
+#include <taglib/flacfile.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/mpegfile.h>
 #include <taglib/mpegproperties.h>
 #include <taglib/tpropertymap.h>
 
 #include <algorithm>
+#include <functional>
 #include <stdexcept>
 
 using namespace TagLib;
@@ -15,44 +22,78 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string pictureOf(const ID3v2::Tag &tag)
+ByteVector pictureOf(MPEG::File &file)
 {
-    for (const ID3v2::Frame *frame : tag.frameList("APIC"))
-        if (const auto *picture = dynamic_cast<const ID3v2::AttachedPictureFrame *>(frame)) {
-            const ByteVector data = picture->picture();
-            return {data.data(), data.size()};
-        }
+    for (const ID3v2::Frame *frame : file.ID3v2Tag()->frameList("APIC"))
+        if (const auto *picture = dynamic_cast<const ID3v2::AttachedPictureFrame *>(frame))
+            return picture->picture();
     return {};
 }
 
-std::size_t valueCount(const MPEG::Properties &audio)
+ByteVector pictureOf(FLAC::File &file)
 {
-    const int values[] = {audio.lengthInMilliseconds(),
-                          audio.bitrate(),
-                          audio.sampleRate(),
-                          audio.channels(),
-                          audio.layer(),
-                          int(audio.version()),
-                          int(audio.channelMode()),
-                          int(audio.protectionEnabled())};
-    return std::size_t(std::ranges::count_if(values, [](int value) { return value != 0; }));
+    const List<FLAC::Picture *> pictures = file.pictureList();
+    return pictures.isEmpty() ? ByteVector() : pictures.front()->data();
 }
 
-std::size_t readMPEG(const fs::path &path)
+ByteVector pictureOf(const MP4::File &file)
 {
-    MPEG::File file(path.c_str(), true);
-    if (!file.isValid() || !file.audioProperties() || !file.ID3v2Tag())
+    const MP4::CoverArtList pictures = file.tag()->item("covr").toCoverArtList();
+    return pictures.isEmpty() ? ByteVector() : pictures.front().data();
+}
+
+std::size_t detailCount(const MPEG::Properties &audio)
+{
+    return std::size_t(audio.layer()) + std::size_t(audio.channelMode())
+        + std::size_t(audio.protectionEnabled());
+}
+
+std::size_t detailCount(const FLAC::Properties &audio)
+{
+    return std::size_t(audio.bitsPerSample());
+}
+
+std::size_t detailCount(const MP4::Properties &audio)
+{
+    return std::size_t(audio.bitsPerSample()) + std::size_t(audio.codec())
+        + std::size_t(audio.isEncrypted());
+}
+
+template <class File> std::size_t read(const fs::path &path)
+{
+    File file(path.c_str(), true);
+    if (!file.isValid() || !file.audioProperties())
         throw std::runtime_error(path.native() + ": TagLib cannot read it");
+    const AudioProperties &audio = *file.audioProperties();
+    const int values[] = {audio.lengthInMilliseconds(), audio.bitrate(), audio.sampleRate(),
+                          audio.channels()};
     const PropertyMap properties = file.properties();
-    const std::string picture = pictureOf(*file.ID3v2Tag());
-    return properties.size() + valueCount(*file.audioProperties()) + (picture.empty() ? 0 : 1);
+    const ByteVector picture = pictureOf(file);
+    const std::string pictureCopy(picture.data(), picture.size());
+    return properties.size() + std::size_t(std::ranges::count_if(values, std::identity()))
+        + detailCount(*file.audioProperties()) + (pictureCopy.empty() ? 0 : 1);
 }
 
-void writeMPEGTitle(const fs::path &path, const std::string &title)
+bool save(MPEG::File &file)
 {
-    MPEG::File file(path.c_str(), false);
+    return file.save(MPEG::File::ID3v2, File::StripOthers, ID3v2::v4, File::DoNotDuplicate);
+}
+
+bool save(FLAC::File &file)
+{
+    return file.save();
+}
+
+bool save(MP4::File &file)
+{
+    return file.save();
+}
+
+template <class File> void writeTitle(const fs::path &path, const std::string &title)
+{
+    File file(path.c_str(), false);
     file.tag()->setTitle(String(title, String::UTF8));
-    if (!file.save(MPEG::File::ID3v2, File::StripOthers, ID3v2::v4, File::DoNotDuplicate))
+    if (!save(file))
         throw std::runtime_error(path.native() + ": TagLib cannot save it");
 }
 
@@ -63,7 +104,9 @@ struct Format
 };
 
 constexpr Format formats[] = {
-    {".mp3", {readMPEG, writeMPEGTitle}},
+    {".mp3", {read<MPEG::File>, writeTitle<MPEG::File>}},
+    {".flac", {read<FLAC::File>, writeTitle<FLAC::File>}},
+    {".m4a", {read<MP4::File>, writeTitle<MP4::File>}},
 };
 
 const HRFBenchSide &sideForFile(const fs::path &file)
