@@ -29,6 +29,7 @@ pid_t start(const std::vector<char *> &arguments)
 void HRFRunProcess(std::vector<std::string> command)
 {
     std::vector<char *> arguments;
+    arguments.reserve(command.size() + 1);
     for (std::string &word : command)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);

@@ -11,6 +11,7 @@ using Part = double HRFCost::*;
 std::vector<double> parts(const std::vector<HRFCost> &costs, Part part)
 {
     std::vector<double> values;
+    values.reserve(costs.size());
     for (const HRFCost &cost : costs)
         values.push_back(cost.*part);
     return values;
@@ -39,6 +40,7 @@ double ratioOfMedians(const HRFComparison &comparison, Part part)
 std::vector<double> ratios(const HRFComparison &comparison)
 {
     std::vector<double> values;
+    values.reserve(comparison.lirra.size());
     for (std::size_t round = 0; round < comparison.lirra.size(); ++round)
         values.push_back(comparison.lirra[round].elapsed / comparison.plain[round].elapsed);
     return values;

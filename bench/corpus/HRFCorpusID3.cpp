@@ -51,10 +51,11 @@ public:
     void addDescribedText(std::string_view id, std::string_view language,
                           std::string_view description, std::string_view text)
     {
-        if (!text.empty())
-            addFrame(id,
-                     m_form.textEncoding + std::string(language) + m_form.text(description)
-                         + std::string(m_form.textEnd) + m_form.text(text));
+        if (text.empty())
+            return;
+        addFrame(id,
+                 m_form.textEncoding + std::string(language) + m_form.text(description)
+                     + std::string(m_form.textEnd) + m_form.text(text));
     }
 
     std::string tag() const

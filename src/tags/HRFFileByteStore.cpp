@@ -47,8 +47,8 @@ HRFResult<std::unique_ptr<HRFFileByteStore>> HRFFileByteStore::open(const HRFFil
         new HRFFileByteStore(path, descriptor, Identity::of(status)));
 }
 
-HRFFileByteStore::HRFFileByteStore(const QByteArray &path, int descriptor, const Identity &identity)
-    : m_path(path), m_readDescriptor(descriptor), m_identity(identity)
+HRFFileByteStore::HRFFileByteStore(QByteArray path, int descriptor, const Identity &identity)
+    : m_path(std::move(path)), m_readDescriptor(descriptor), m_identity(identity)
 {
 }
 

@@ -42,7 +42,7 @@ private:
         friend bool operator==(const Identity &, const Identity &) = default;
     };
 
-    HRFFileByteStore(const QByteArray &path, int descriptor, const Identity &identity);
+    HRFFileByteStore(QByteArray path, int descriptor, const Identity &identity);
     static HRFResult<Identity> identityOf(int descriptor);
 
     QByteArray m_path;

@@ -59,7 +59,7 @@ bool beginsWithEmptyFrame(const ByteVector &data, unsigned int version)
     const ID3v2::Frame::Header header(data, version);
     const ByteVector id = header.frameID();
     return header.frameSize() == 0 && id.size() == (version < 3 ? 3U : 4U)
-        && std::all_of(id.begin(), id.end(), [](char character) {
+        && std::ranges::all_of(id, [](char character) {
                return (character >= 'A' && character <= 'Z')
                    || (character >= '0' && character <= '9');
            });

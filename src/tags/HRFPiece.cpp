@@ -67,6 +67,7 @@ private:
 HRFResult<void> PieceWriter::write(const std::vector<HRFPiece> &pieces)
 {
     std::vector<Placed> placed;
+    placed.reserve(pieces.size());
     qint64 newSize = 0;
     for (const HRFPiece &piece : pieces)
         placed.push_back({&piece, std::exchange(newSize, newSize + piece.length)});

@@ -273,10 +273,11 @@ HRFResult<void> HRFTagEngine::checkSavedFile(const std::map<HRFTagKey, QVariant>
     const auto written = engineClass().initWithStream(streamForReading(values), false);
     if (!written)
         return std::unexpected(reasonError(tr("The file would not be readable afterwards.")));
-    for (const auto &[key, value] : values)
-        if (const QVariant found = (*written)->readValue(key);
-            found != value && found != m_changes.at(key))
+    for (const auto &[key, value] : values) {
+        const QVariant found = (*written)->readValue(key);
+        if (found != value && found != m_changes.at(key))
             return std::unexpected(notKeptError(key));
+    }
     return {};
 }
 

@@ -37,7 +37,7 @@ protected:
 
     QVariant readValue(HRFTagKey key) const override
     {
-        QVariant value = First::readValue(key);
+        const QVariant value = First::readValue(key);
         if (key == HRFTagKey::tagVersion)
             return joinedVersions(value.toString(), self().Self::secondTagVersion());
         return HRFTagValue::isNothing(value) ? self().Self::secondValueForKey(key) : value;

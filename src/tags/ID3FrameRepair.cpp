@@ -33,7 +33,7 @@ ByteVector withFrameSize(ByteVector frame, unsigned int version)
     const unsigned int size = frame.size() - headerSize;
     const ByteVector bytes =
         version == 4 ? ID3v2::SynchData::fromUInt(size) : ByteVector::fromUInt(size);
-    std::copy(bytes.begin(), bytes.end(), frame.begin() + ID3FrameHeader::sizeOffset);
+    std::ranges::copy(bytes, frame.begin() + ID3FrameHeader::sizeOffset);
     return frame;
 }
 

@@ -89,10 +89,10 @@ HRFNumber ID3MetaData::numberForIntPairWithID3Key(HRFTagKey key, bool first) con
     if (!text)
         return {};
     const QStringList parts = text->split(u'/');
-    const qlonglong number = *numberForString(parts.first());
+    const qlonglong number = numberForString(parts.first()).value_or(0);
     qlonglong total = 0;
     if (parts.size() == 2) {
-        total = *numberForString(parts.last());
+        total = numberForString(parts.last()).value_or(0);
         if (number == 0 && total == 0)
             return 0;
     }

@@ -56,7 +56,7 @@ QByteArray tagWithFrames(Header header, QByteArray frames)
 {
     frames.append(headerSize, '\0');
     const ByteVector size = ID3v2::SynchData::fromUInt(static_cast<unsigned int>(frames.size()));
-    std::copy(size.begin(), size.end(), header.end() - 4);
+    std::copy_n(size.begin(), 4, header.end() - 4);
     return frames.prepend(header.data(), header.size());
 }
 

@@ -106,9 +106,10 @@ HRFResult<void> MPEGMetaData::checkFile()
 void MPEGMetaData::takeOverSecondTag()
 {
     ID3v2::Tag *first = m_tagFile->ID3v2Tag();
-    const offset_t end = offset_t(first->header()->completeTagSize());
+    const auto end = offset_t(first->header()->completeTagSize());
     stream().seek(0, IOStream::Beginning);
-    offset_t offset = ID3v2::Header(stream().readBlock(ID3v2::Header::size())).completeTagSize();
+    auto offset =
+        offset_t(ID3v2::Header(stream().readBlock(ID3v2::Header::size())).completeTagSize());
     while (offset < end) {
         ID3v2::Tag second(m_tagFile.get(), offset, frameFactory());
         stream().seek(offset, IOStream::Beginning);
