@@ -15,9 +15,7 @@ HRFArtworkFacts examine(const QByteArray &data)
 {
     HRFArtworkFacts facts;
     if (const auto type = bitmapImageType(data))
-        facts.imageType =
-            QString::fromLatin1(type->fileExtension.data(), qsizetype(type->fileExtension.size()))
-                .toUpper();
+        facts.imageType = QString::fromLatin1(type->fileExtension).toUpper();
     if (const auto size = bitmapImageSize(data))
         facts.imageSize = u"{%1, %2}"_s.arg(size->width()).arg(size->height());
     facts.imageDataSize = data.size();

@@ -5,13 +5,14 @@
 #include "cli/HRFInterruption.h"
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFMapManager.h"
-#include "tags/HRFTagProperties.h"
+#include "tags/HRFTagKey.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,7 @@ std::string tagList()
     for (const HRFPropertyRow &row : HRFPropertyRows) {
         if (!row.isTag || row.type == HRFPropertyType::Data)
             continue;
-        const QString name = QString::fromLatin1(row.name.data(), qsizetype(row.name.size()));
+        const QString name = QString::fromLatin1(row.name);
         const QString text = HRFMapManager::frameDescriptions().value(name);
         list += (u"  "_s + name.leftJustified(22) + text + u'\n').toStdString();
     }

@@ -13,9 +13,14 @@ void HRFConsole::print(const QByteArray &text)
     if (m_hasOutputFailed)
         return;
     clearProgress();
-    if (std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout)
-        == std::size_t(text.size()))
-        return;
+    const auto size = std::size_t(text.size());
+    if (std::fwrite(text.constData(), 1, size, stdout) != size)
+        noteFailedOutput();
+}
+
+/// Whoever closes the pipe knows that.
+void HRFConsole::noteFailedOutput()
+{
     m_hasOutputFailed = true;
     if (errno != EPIPE)
         report(u"Standard output cannot be written"_s);
@@ -49,11 +54,8 @@ void HRFConsole::clearProgress()
 void HRFConsole::finish()
 {
     clearProgress();
-    if (!m_hasOutputFailed && std::fflush(stdout) != 0) {
-        m_hasOutputFailed = true;
-        if (errno != EPIPE)
-            report(u"Standard output cannot be written"_s);
-    }
+    if (!m_hasOutputFailed && std::fflush(stdout) != 0)
+        noteFailedOutput();
 }
 
 bool HRFConsole::isInteractive() const

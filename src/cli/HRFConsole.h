@@ -36,6 +36,7 @@ public:
 
 private:
     void clearProgress();
+    void noteFailedOutput();
 
     bool m_showsProgress;
     bool m_isProgressShown = false;

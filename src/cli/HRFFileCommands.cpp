@@ -7,6 +7,8 @@
 #include "cli/HRFValueText.h"
 #include "tags/HRFTagEngine.h"
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -28,11 +30,22 @@ QString describeChange(const HRFTagEngine &engine, const HRFTagChange &change)
                                      shown(old), shown(change.value));
 }
 
+/// The text of a dry run about one file.
 QByteArray describe(const HRFTagEngine &engine, const QString &changes)
 {
     if (changes.isEmpty())
         return {};
     return (HRFConsole::printable(engine.fileURL().displayPath()) + u'\n' + changes).toUtf8();
+}
+
+using Work = std::function<HRFResult<void>(HRFTagEngine &)>;
+
+int forEachEngine(HRFFileRun &run, bool readProperties, const Work &work)
+{
+    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
+        const auto engine = HRFTagEngine::initWithURL(file, readProperties);
+        return engine ? work(**engine) : std::unexpected(engine.error());
+    });
 }
 
 } // namespace
@@ -41,11 +54,8 @@ int HRFShowFiles(const HRFCommandOptions &options)
 {
     HRFFileReport report(options.printsFrames);
     HRFFileRun run(options);
-    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
-        const auto engine = HRFTagEngine::initWithURL(file, true);
-        if (!engine)
-            return std::unexpected(engine.error());
-        run.console().print(options.printsJSON ? report.json(**engine) : report.text(**engine));
+    return forEachEngine(run, true, [&](const HRFTagEngine &engine) -> HRFResult<void> {
+        run.console().print(options.printsJSON ? report.json(engine) : report.text(engine));
         return {};
     });
 }
@@ -58,39 +68,32 @@ int HRFSetTags(const HRFCommandOptions &options)
         run.console().report(changes.error());
         return HRFExitStatus::wrongUsage;
     }
-    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
-        const auto engine = HRFTagEngine::initWithURL(file);
-        if (!engine)
-            return std::unexpected(engine.error());
-        QString described;
-        for (const HRFTagChange &change : *changes) {
-            if (options.isDryRun)
-                described += describeChange(**engine, change);
-            else
-                (*engine)->setValueForKey(change.value, change.key);
+    return forEachEngine(run, false, [&](HRFTagEngine &engine) -> HRFResult<void> {
+        if (options.isDryRun) {
+            QString described;
+            for (const HRFTagChange &change : *changes)
+                described += describeChange(engine, change);
+            run.console().print(describe(engine, described));
+            return {};
         }
-        if (!options.isDryRun)
-            return (*engine)->updateFileWithError();
-        run.console().print(describe(**engine, described));
-        return {};
+        for (const HRFTagChange &change : *changes)
+            engine.setValueForKey(change.value, change.key);
+        return engine.updateFileWithError();
     });
 }
 
 int HRFStripTags(const HRFCommandOptions &options)
 {
     HRFFileRun run(options);
-    return run.forEachFile([&](const HRFFileReference &file) -> HRFResult<void> {
-        const auto engine = HRFTagEngine::initWithURL(file);
-        if (!engine)
-            return std::unexpected(engine.error());
-        if (!options.isDryRun) {
-            if (auto stripped = (*engine)->stripTags(); !stripped)
-                return stripped;
-            return (*engine)->updateFileWithError();
+    return forEachEngine(run, false, [&](HRFTagEngine &engine) -> HRFResult<void> {
+        if (options.isDryRun) {
+            const QString version = engine.tagVersion().value_or(QString());
+            run.console().print(
+                describe(engine, version.isEmpty() ? QString() : u"  removes %1\n"_s.arg(version)));
+            return {};
         }
-        const QString version = (*engine)->tagVersion().value_or(QString());
-        run.console().print(
-            describe(**engine, version.isEmpty() ? QString() : u"  removes %1\n"_s.arg(version)));
-        return {};
+        if (auto stripped = engine.stripTags(); !stripped)
+            return stripped;
+        return engine.updateFileWithError();
     });
 }

@@ -3,13 +3,16 @@
 #include "kit/HRFFileReference.h"
 #include "kit/HRFISO8601DateFormatter.h"
 #include "kit/HRFImageType.h"
-#include "tags/HRFTagProperties.h"
+#include "tags/HRFTagKey.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <limits>
-#include <numeric>
+#include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,8 +23,9 @@ using ParsedValue = std::expected<QVariant, QString>;
 /// How many single-character edits lead from one text to the other (Levenshtein).
 qsizetype editDistance(const QString &from, const QString &to)
 {
-    std::vector<qsizetype> row(std::size_t(to.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
+    std::vector<qsizetype> row;
+    for (qsizetype i = 0; i <= to.size(); ++i)
+        row.push_back(i);
     for (qsizetype i = 1; i <= from.size(); ++i) {
         qsizetype diagonal = std::exchange(row[0], i);
         for (qsizetype j = 1; j <= to.size(); ++j) {
@@ -39,7 +43,7 @@ QString nearestKey(const QString &name)
     QString nearest;
     qsizetype smallest = std::numeric_limits<qsizetype>::max();
     for (const HRFPropertyRow &row : HRFPropertyRows) {
-        const QString candidate = QString::fromLatin1(row.name.data(), qsizetype(row.name.size()));
+        const QString candidate = QString::fromLatin1(row.name);
         const qsizetype distance = editDistance(name.toLower(), candidate.toLower());
         if (row.isTag && distance < smallest) {
             smallest = distance;
@@ -120,8 +124,8 @@ std::expected<QByteArray, QString> readArtwork(const std::string &path)
 {
     const auto reference = HRFFileReference::fromNativePath(QByteArray::fromStdString(path));
     const QString name = reference.displayPath();
-    std::unique_ptr<std::FILE, int (*)(std::FILE *)> handle(std::fopen(path.c_str(), "rb"),
-                                                            &std::fclose);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> handle(std::fopen(path.c_str(), "rb"),
+                                                                  &std::fclose);
     QFile file;
     if (!handle || !file.open(handle.get(), QIODevice::ReadOnly))
         return std::unexpected(

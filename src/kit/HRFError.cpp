@@ -12,7 +12,7 @@ namespace {
 struct ErrorNumber
 {
     QLatin1StringView domain;
-    int code;
+    int code = 0;
 };
 
 constexpr std::array permissionErrors{

@@ -77,11 +77,10 @@ std::optional<QSize> bitmapImageSize(QByteArrayView data)
     const auto type = bitmapImageType(data);
     if (!type)
         return std::nullopt;
-    const std::string_view format = type->fileExtension;
     QByteArray bytes = QByteArray::fromRawData(data.data(), data.size());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, QByteArray(format.data(), std::ssize(format)));
+    QImageReader reader(&buffer, QByteArrayView(type->fileExtension).toByteArray());
     reader.setAutoDetectImageFormat(false);
     return validSize(reader.size());
 }
