@@ -1,29 +1,22 @@
 #pragma once
 
-#include "tags/HRFEngineClass.h"
-#include "tags/ID3MetaData.h"
+#include "tags/ID3FileMetaData.h"
 
 #include <taglib/aifffile.h>
 
 /// The engine of AIFF and AIFF-C files.
-class AIFFMetaData : public ID3MetaData
+class AIFFMetaData : public ID3FileMetaData<TagLib::RIFF::AIFF::File>
 {
 public:
     static const HRFEngineClass metadataClass;
 
-    AIFFMetaData(std::shared_ptr<HRFTagStream> stream, bool readProperties);
+    using ID3FileMetaData::ID3FileMetaData;
 
-    TagLib::ID3v2::Tag *ID3V2Tag() const override { return m_tagFile->tag(); }
-    HRFResult<void> stripTags() override;
+    TagLib::ID3v2::Tag *ID3V2Tag() const override { return tagFile()->tag(); }
     HRFResult<void> checkFile() override;
 
 protected:
     QVariant readValue(HRFTagKey key) const override;
     const HRFEngineClass &engineClass() const override { return metadataClass; }
-    TagLib::File *tagFile() const override { return m_tagFile.get(); }
     HRFResult<void> saveTags() override;
-
-private:
-    std::unique_ptr<TagLib::RIFF::AIFF::File> m_tagFile;
-    QString m_obstacle; ///< why saving would lose a part of the tags
 };

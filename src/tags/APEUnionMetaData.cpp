@@ -49,31 +49,6 @@ void APEUnionMetaData::removeValueForAPETag(const char *tagName)
         tag->removeItem(String(tagName));
 }
 
-HRFText APEUnionMetaData::stringForAPEKey(HRFTagKey key) const
-{
-    return stringForAPETag(APEFrameForKey(key));
-}
-
-void APEUnionMetaData::setStringForAPEKey(const HRFText &value, HRFTagKey key)
-{
-    setStringForAPETag(value, APEFrameForKey(key));
-}
-
-void APEUnionMetaData::removeValueForAPEKey(HRFTagKey key)
-{
-    removeValueForAPETag(APEFrameForKey(key));
-}
-
-HRFNumber APEUnionMetaData::numberForAPEKey(HRFTagKey key) const
-{
-    return numberForString(stringForAPEKey(key));
-}
-
-void APEUnionMetaData::setNumberForAPEKey(const HRFNumber &value, HRFTagKey key)
-{
-    setStringForAPEKey(stringForNumber(value), key);
-}
-
 QVariant APEUnionMetaData::secondValueForKey(HRFTagKey key) const
 {
     return isAPEText(key) ? valueFromText(stringForAPEKey(key), HRFRowForKey(key).type)

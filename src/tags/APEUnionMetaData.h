@@ -18,12 +18,18 @@ public:
     /// Replaces the item; nothing removes it.
     void setStringForAPETag(const HRFText &value, const char *tagName);
     void removeValueForAPETag(const char *tagName);
-    HRFText stringForAPEKey(HRFTagKey key) const;
-    void setStringForAPEKey(const HRFText &value, HRFTagKey key);
-    void removeValueForAPEKey(HRFTagKey key);
-    HRFNumber numberForAPEKey(HRFTagKey key) const;
+    HRFText stringForAPEKey(HRFTagKey key) const { return stringForAPETag(APEFrameForKey(key)); }
+    void setStringForAPEKey(const HRFText &value, HRFTagKey key)
+    {
+        setStringForAPETag(value, APEFrameForKey(key));
+    }
+    void removeValueForAPEKey(HRFTagKey key) { removeValueForAPETag(APEFrameForKey(key)); }
+    HRFNumber numberForAPEKey(HRFTagKey key) const { return numberForString(stringForAPEKey(key)); }
     /// Nothing and 0 remove the item.
-    void setNumberForAPEKey(const HRFNumber &value, HRFTagKey key);
+    void setNumberForAPEKey(const HRFNumber &value, HRFTagKey key)
+    {
+        setStringForAPEKey(stringForNumber(value), key);
+    }
 
     QVariant secondValueForKey(HRFTagKey key) const;
     void setSecondValueForKey(const QVariant &value, HRFTagKey key);

@@ -1,15 +1,11 @@
 #include "tags/DSDIFFMetaData.h"
 
 #include "tags/DSDIFFWriter.h"
-#include "tags/HRFTagStream.h"
 #include "tags/IFFCheck.h"
 #include "tags/IFFID3.h"
 #include "tags/TagLibText.h"
 
 #include <QCoreApplication>
-#include <taglib/dsdiffdiintag.h>
-#include <taglib/dsdiffproperties.h>
-#include <taglib/id3v2tag.h>
 
 #include <algorithm>
 #include <iterator>
@@ -74,25 +70,10 @@ HRFResult<void> DSDIFFMetaData::checkBeforeOpening(HRFTagStream &stream)
     return {};
 }
 
-DSDIFFMetaData::DSDIFFMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
-    : HRFTagUnion(std::move(file))
-    , m_tagFile(std::make_unique<DSDIFF::File>(&stream(), readProperties, AudioProperties::Average,
-                                               frameFactory()))
-{
-    readDIINTexts();
-}
-
-void DSDIFFMetaData::readDIINTexts()
-{
-    m_DIINTexts.clear();
-    for (const DIINField &field : fields)
-        m_DIINTexts.push_back(DIINTag() ? (DIINTag()->*field.read)() : String());
-}
-
 QVariant DSDIFFMetaData::secondValueForKey(HRFTagKey key) const
 {
     const auto *field = std::ranges::find(fields, key, &DIINField::key);
-    if (field == std::end(fields) || !DIINTag())
+    if (field == std::end(fields))
         return {};
     const String text = (DIINTag()->*field->read)();
     return text.isEmpty() ? QVariant() : QVariant(TagLibText::toQString(text));
@@ -103,30 +84,18 @@ void DSDIFFMetaData::setSecondValueForKey(const QVariant &value, HRFTagKey key)
 {
     const auto *field = std::ranges::find(fields, key, &DIINField::key);
     const String text = TagLibText::toTagString(value.toString());
-    if (field != std::end(fields) && DIINTag() && text.isLatin1())
+    if (field != std::end(fields) && text.isLatin1())
         (DIINTag()->*field->write)(text);
 }
 
 QString DSDIFFMetaData::secondTagVersion() const
 {
-    return m_tagFile->hasDIINTag() ? u"DIIN"_s : QString();
+    return tagFile()->hasDIINTag() ? u"DIIN"_s : QString();
 }
 
 QVariant DSDIFFMetaData::readValue(HRFTagKey key) const
 {
-    const DSDIFF::Properties *properties = m_tagFile->audioProperties();
-    if (key == HRFTagKey::format)
-        return u"DSD (IFF)"_s;
-    if (key == HRFTagKey::bitDepth)
-        return properties ? QVariant(qlonglong(properties->bitsPerSample())) : QVariant();
-    return HRFTagUnion::readValue(key);
-}
-
-HRFResult<void> DSDIFFMetaData::stripTags()
-{
-    const Lock guard = lock();
-    m_obstacle.clear();
-    return ID3MetaData::stripTags();
+    return key == HRFTagKey::format ? u"DSD (IFF)"_s : HRFTagUnion::readValue(key);
 }
 
 /// TagLib takes any bytes for a chunked file.
@@ -134,20 +103,26 @@ HRFResult<void> DSDIFFMetaData::checkFile()
 {
     if (!IFFHasHeader(stream(), DSDIFFLayout, "FRM8", "DSD "))
         return std::unexpected(contentsError());
-    if (auto checked = ID3MetaData::checkFile(); !checked)
+    if (auto checked = HRFTagUnion::checkFile(); !checked)
         return checked;
     const std::vector<DSDIFFChunk> chunks = DSDIFFID3Chunks(stream());
     if (chunks.size() > 1)
-        m_obstacle = tr("It has several ID3v2 tags; all but one would be lost.");
+        refuseSaving(tr("It has several ID3v2 tags; all but one would be lost."));
     else if (!chunks.empty())
-        m_obstacle = IFFObstacleInID3(stream(), chunks.front().offset, chunks.front().size);
+        refuseSaving(IFFObstacleInID3(stream(), chunks.front().offset, chunks.front().size));
+    noteDIINTexts();
     return {};
+}
+
+void DSDIFFMetaData::noteDIINTexts()
+{
+    m_DIINTexts.clear();
+    for (const DIINField &field : fields)
+        m_DIINTexts.push_back((DIINTag()->*field.read)());
 }
 
 HRFResult<void> DSDIFFMetaData::saveTags()
 {
-    if (!m_obstacle.isEmpty())
-        return std::unexpected(reasonError(m_obstacle));
     if (auto prepared = prepareSaving(4); !prepared)
         return prepared;
     DSDIFFWriter writer(stream());
@@ -164,6 +139,6 @@ HRFResult<void> DSDIFFMetaData::saveTags()
     }
     if (!writer.finish())
         return std::unexpected(reasonError(tr("Its chunks are damaged.")));
-    readDIINTexts();
+    noteDIINTexts();
     return {};
 }

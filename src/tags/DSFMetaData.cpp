@@ -1,11 +1,8 @@
 #include "tags/DSFMetaData.h"
 
-#include "tags/HRFTagStream.h"
 #include "tags/IFFID3.h"
 
 #include <QCoreApplication>
-#include <taglib/dsfproperties.h>
-#include <taglib/id3v2tag.h>
 
 #include <iterator>
 
@@ -66,7 +63,7 @@ private:
 QString obstacleToSaving(HRFTagStream &stream, const Parts &parts)
 {
     constexpr qint64 headerSize = 12;
-    const QString damaged = tr("Its header does not fit its contents.");
+    QString damaged = tr("Its header does not fit its contents.");
     if (IFFReadBytes(stream, Parts::audioOffset, 4) != "data" || parts.audioSize < headerSize)
         return damaged;
     if (parts.audioSize > stream.length() - Parts::audioOffset)
@@ -87,23 +84,14 @@ const HRFEngineClass DSFMetaData::metadataClass{"DSFMetaData", fileTypes,
                                                 QT_TRANSLATE_NOOP("HRFTagEngine", "DSF audio"),
                                                 &HRFMakeEngine<DSFMetaData>};
 
-DSFMetaData::DSFMetaData(std::shared_ptr<HRFTagStream> file, bool readProperties)
-    : ID3MetaData(std::move(file))
-    , m_tagFile(std::make_unique<DSF::File>(&stream(), readProperties, AudioProperties::Average,
-                                            frameFactory()))
-{
-}
-
 QVariant DSFMetaData::readValue(HRFTagKey key) const
 {
-    const DSF::Properties *properties = m_tagFile->audioProperties();
+    const DSF::Properties *properties = tagFile()->audioProperties();
     if (key == HRFTagKey::format)
         return u"DSD (SF)"_s;
-    if (key == HRFTagKey::bitDepth)
-        return properties ? QVariant(qlonglong(properties->bitsPerSample())) : QVariant();
     if (key == HRFTagKey::channelMode)
         return properties ? channelModeName(*properties) : QVariant();
-    return ID3MetaData::readValue(key);
+    return ID3FileMetaData::readValue(key);
 }
 
 /// TagLib would cut off what follows the stated end of the file.

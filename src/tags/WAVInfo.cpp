@@ -31,22 +31,13 @@ QString textFromWindows1252(QByteArrayView data)
 /// INFO texts end with a NUL (RIFF, "ZSTR").
 QString textFromInfo(const ByteVector &bytes)
 {
-    const auto end = std::find(bytes.begin(), bytes.end(), '\0');
+    const auto end = std::ranges::find(bytes, '\0');
     const QByteArrayView data(bytes.data(), end - bytes.begin());
     // A character that is cut off at the end is an error, too.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = decoder(data);
+    const QString text = decoder(data);
     return decoder.hasError() ? textFromWindows1252(data) : text;
 }
-
-class InfoTexts final : public RIFF::Info::StringHandler
-{
-public:
-    String parse(const ByteVector &data) const override
-    {
-        return TagLibText::toTagString(textFromInfo(data));
-    }
-};
 
 QString tr(const char *text)
 {
@@ -55,7 +46,7 @@ QString tr(const char *text)
 
 bool isAllZero(const ByteVector &bytes)
 {
-    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return c == '\0'; });
+    return std::ranges::all_of(bytes, [](char c) { return c == '\0'; });
 }
 
 /// Adds the fields of one list; answers like WAVReadInfo.
@@ -80,13 +71,6 @@ QString readList(HRFTagStream &stream, const IFFChunk &list, RIFF::Info::Tag &ta
 
 } // namespace
 
-void WAVRegisterInfoTexts()
-{
-    static const InfoTexts texts;
-    [[maybe_unused]] static const bool isRegistered =
-        (RIFF::Info::Tag::setStringHandler(&texts), true);
-}
-
 QString WAVReadInfo(HRFTagStream &stream, std::span<const IFFChunk> chunks, RIFF::Info::Tag &tag)
 {
     for (const auto &[name, text] : tag.fieldListMap())
@@ -95,7 +79,7 @@ QString WAVReadInfo(HRFTagStream &stream, std::span<const IFFChunk> chunks, RIFF
     for (const IFFChunk &chunk : chunks) {
         if (chunk.name != "LIST" || IFFReadBytes(stream, chunk.offset, 4) != "INFO")
             continue;
-        if (QString found = readList(stream, chunk, tag); !found.isEmpty())
+        if (const QString found = readList(stream, chunk, tag); !found.isEmpty())
             obstacle = found;
     }
     return obstacle;
