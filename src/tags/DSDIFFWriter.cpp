@@ -1,6 +1,7 @@
 #include "tags/DSDIFFWriter.h"
 
 #include "tags/HRFTagStream.h"
+#include "tags/IFFID3.h"
 
 #include <algorithm>
 #include <ranges>
@@ -8,11 +9,6 @@
 using namespace TagLib;
 
 namespace {
-
-bool isID3(const IFFChunk &chunk)
-{
-    return chunk.name == "ID3 " || chunk.name == "id3 ";
-}
 
 ByteVector wholeChunk(const char *name, const ByteVector &contents)
 {
@@ -27,6 +23,15 @@ ByteVector wholeChunk(const char *name, const ByteVector &contents)
 qint64 trailingBytes(HRFTagStream &stream)
 {
     return stream.length() - IFFReadChunks(stream, DSDIFFLayout).end;
+}
+
+template <class Matches>
+void appendChildren(std::vector<DSDIFFChunk> &found, HRFTagStream &stream, const IFFChunk &parent,
+                    Matches matches)
+{
+    for (const IFFChunk &child : DSDIFFChildren(stream, parent).chunks)
+        if (matches(child))
+            found.push_back({child, parent.offset});
 }
 
 /// A chunk behind one that ends at an odd offset brings along the byte that pads that one.
@@ -48,12 +53,10 @@ std::vector<DSDIFFChunk> DSDIFFID3Chunks(HRFTagStream &stream)
 {
     std::vector<DSDIFFChunk> found;
     for (const IFFChunk &chunk : IFFReadChunks(stream, DSDIFFLayout).chunks) {
-        if (isID3(chunk))
+        if (IFFIsID3(chunk))
             found.push_back({chunk});
         if (chunk.name == "PROP")
-            for (const IFFChunk &child : DSDIFFChildren(stream, chunk).chunks)
-                if (isID3(child))
-                    found.push_back({child, chunk.offset});
+            appendChildren(found, stream, chunk, IFFIsID3);
     }
     return found;
 }
@@ -101,12 +104,11 @@ bool DSDIFFWriter::finish()
 
 std::vector<DSDIFFChunk> DSDIFFWriter::chunksInDIIN(const char *name) const
 {
+    const auto isNamed = [name](const IFFChunk &chunk) { return chunk.name == name; };
     std::vector<DSDIFFChunk> found;
     for (const IFFChunk &chunk : IFFReadChunks(m_stream, DSDIFFLayout).chunks)
         if (chunk.name == "DIIN")
-            for (const IFFChunk &child : DSDIFFChildren(m_stream, chunk).chunks)
-                if (child.name == name)
-                    found.push_back({child, chunk.offset});
+            appendChildren(found, m_stream, chunk, isNamed);
     return found;
 }
 

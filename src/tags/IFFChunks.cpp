@@ -8,21 +8,22 @@ using namespace TagLib;
 
 namespace {
 
+/// Whether the bytes are four printable ASCII characters.
+bool isChunkName(const ByteVector &name)
+{
+    return name.size() == 4
+        && std::ranges::all_of(name, [](char c) { return c >= ' ' && c < '\x7F'; });
+}
+
 /// Where the next chunk begins behind contents that end at an odd offset.
 qint64 paddedEnd(HRFTagStream &stream, qint64 offset, qint64 end)
 {
     const ByteVector next = IFFReadBytes(stream, offset, std::min<qint64>(5, end - offset));
-    const bool isPadded = !next.isEmpty() && (next[0] == '\0' || IFFIsChunkName(next.mid(1, 4)));
+    const bool isPadded = !next.isEmpty() && (next[0] == '\0' || isChunkName(next.mid(1, 4)));
     return isPadded ? offset + 1 : offset;
 }
 
 } // namespace
-
-bool IFFIsChunkName(const ByteVector &name)
-{
-    return name.size() == 4
-        && std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c < '\x7F'; });
-}
 
 ByteVector IFFReadBytes(HRFTagStream &stream, qint64 offset, qint64 count)
 {
@@ -49,7 +50,7 @@ IFFChunkList IFFReadChunks(HRFTagStream &stream, IFFLayout layout, qint64 start,
     while (list.end + layout.headerSize() <= end) {
         const ByteVector header = IFFReadBytes(stream, list.end, layout.headerSize());
         const ByteVector name = header.mid(0, 4);
-        if (!IFFIsChunkName(name))
+        if (!isChunkName(name))
             return list;
         const qint64 offset = list.end + layout.headerSize();
         const qint64 size = IFFSizeFromBytes(layout, header.mid(4));

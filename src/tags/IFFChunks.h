@@ -37,9 +37,6 @@ struct IFFChunkList
     bool isCutOff = false; ///< whether another chunk follows that states more bytes than there are
 };
 
-/// Whether the bytes are four printable ASCII characters.
-bool IFFIsChunkName(const TagLib::ByteVector &name);
-
 /// The chunks between two offsets, up to the first bytes that are no chunk. Chunks begin at even
 /// offsets (EA IFF 85, RIFF), but the byte that pads an odd chunk is missing in some files.
 IFFChunkList IFFReadChunks(HRFTagStream &stream, IFFLayout layout, qint64 start, qint64 end);

@@ -10,7 +10,10 @@
 #include <taglib/tfile.h>
 
 #include <algorithm>
+#include <iterator>
+#include <ranges>
 #include <utility>
+#include <vector>
 
 using namespace TagLib;
 
@@ -50,13 +53,9 @@ bool mergeFrames(ID3v2::Tag &tag, ID3v2::Tag &other)
 
 } // namespace
 
-std::vector<IFFChunk> IFFID3Chunks(std::span<const IFFChunk> chunks)
+bool IFFIsID3(const IFFChunk &chunk)
 {
-    std::vector<IFFChunk> found;
-    std::ranges::copy_if(chunks, std::back_inserter(found), [](const IFFChunk &chunk) {
-        return chunk.name == "ID3 " || chunk.name == "id3 ";
-    });
-    return found;
+    return chunk.name == "ID3 " || chunk.name == "id3 ";
 }
 
 QString IFFObstacleInID3(HRFTagStream &stream, qint64 offset, qint64 size)
@@ -76,15 +75,16 @@ QString IFFObstacleInID3(HRFTagStream &stream, qint64 offset, qint64 size)
 QString IFFMergeID3(HRFTagStream &stream, std::span<const IFFChunk> chunks, File &file,
                     ID3v2::Tag &tag)
 {
-    const std::vector<IFFChunk> tags = IFFID3Chunks(chunks);
+    std::vector<IFFChunk> tags;
+    std::ranges::copy_if(chunks, std::back_inserter(tags), IFFIsID3);
     for (const IFFChunk &chunk : tags) {
         if (QString obstacle = IFFObstacleInID3(stream, chunk.offset, chunk.size);
             !obstacle.isEmpty())
             return obstacle;
     }
-    for (std::size_t i = 1; i < tags.size(); ++i) {
+    for (const IFFChunk &chunk : tags | std::views::drop(1)) {
         HRFFrameFactory factory;
-        ID3v2::Tag other(&file, tags[i].offset, &factory);
+        ID3v2::Tag other(&file, chunk.offset, &factory);
         factory.completeTag(other);
         if (!factory.obstacle().isEmpty())
             return factory.obstacle();

@@ -13,8 +13,8 @@ class Tag;
 }
 } // namespace TagLib
 
-/// The chunks among the given ones that hold ID3v2 tags.
-std::vector<IFFChunk> IFFID3Chunks(std::span<const IFFChunk> chunks);
+/// Whether the chunk is one for an ID3v2 tag.
+bool IFFIsID3(const IFFChunk &chunk);
 
 /// Why saving would lose a part of the tag that is to fill the given bytes; empty when it would
 /// not.
