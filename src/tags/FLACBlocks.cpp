@@ -12,9 +12,7 @@ using namespace TagLib;
 
 namespace {
 
-constexpr qsizetype headerLength = 4;
-constexpr char typeMask = '\x7F';
-constexpr char lastBlockFlag = '\x80';
+constexpr qint64 streamMarkerLength = 4; ///< of "fLaC"
 
 QByteArray readBytes(File &file, qint64 offset, qint64 length)
 {
@@ -38,11 +36,35 @@ qint64 findStream(File &file)
     return file.find("fLaC", behindTag);
 }
 
-void appendHeader(QByteArray &bytes, char type, qint64 length)
+/// A block whose data has not been read.
+struct BlockPlace
 {
-    const quint32 header =
-        qToBigEndian((quint32(static_cast<unsigned char>(type)) << 24) | quint32(length));
-    bytes.append(reinterpret_cast<const char *>(&header), sizeof header);
+    char type;
+    qint64 offset; ///< of the data
+    qint64 length; ///< of the data
+};
+
+/// All blocks, of which there is at least one; nothing when they are cut off.
+std::optional<std::vector<BlockPlace>> findBlocks(File &file)
+{
+    const qint64 stream = findStream(file);
+    if (stream < 0)
+        return {};
+    std::vector<BlockPlace> places;
+    qint64 offset = stream + streamMarkerLength;
+    for (bool isLast = false; !isLast;) {
+        const QByteArray header = readBytes(file, offset, FLACBlockHeaderLength);
+        if (header.size() < FLACBlockHeaderLength)
+            return {};
+        const qint64 length = qFromBigEndian<quint32>(header.constData()) & FLACLargestBlock;
+        offset += FLACBlockHeaderLength;
+        if (length > file.length() - offset)
+            return {};
+        places.push_back({static_cast<char>(header.front() & FLACBlockType::mask), offset, length});
+        offset += length;
+        isLast = (header.front() & FLACBlockType::lastBlockFlag) != 0;
+    }
+    return places;
 }
 
 /// The padding that makes the blocks as long as they were. Much of it is given back, since a
@@ -57,39 +79,45 @@ qint64 paddingLength(qint64 left, qint64 fileLength)
 
 } // namespace
 
+QByteArray FLACBlockHeader(char type, qsizetype length)
+{
+    QByteArray header(FLACBlockHeaderLength, Qt::Uninitialized);
+    qToBigEndian(static_cast<quint32>(length), header.data());
+    header.front() = type;
+    return header;
+}
+
 std::optional<FLACBlocks> FLACBlocks::read(File &file)
 {
-    const qint64 stream = findStream(file);
-    if (stream < 0)
+    const auto places = findBlocks(file);
+    if (!places)
         return {};
-    FLACBlocks result{.start = stream + headerLength, .end = stream + headerLength, .blocks = {}};
-    for (bool isLast = false; !isLast;) {
-        const QByteArray header = readBytes(file, result.end, headerLength);
-        if (header.size() < headerLength)
-            return {};
-        constexpr quint32 lengthMask = 0xFFFFFF;
-        const qsizetype length = qFromBigEndian<quint32>(header.constData()) & lengthMask;
-        const char type = static_cast<char>(header.front() & typeMask);
-        result.blocks.push_back({type, readBytes(file, result.end + headerLength, length)});
-        if (result.blocks.back().data.size() < length)
-            return {};
-        result.end += headerLength + length;
-        isLast = (header.front() & lastBlockFlag) != 0;
-    }
+    FLACBlocks result{.start = places->front().offset - FLACBlockHeaderLength,
+                      .end = places->back().offset + places->back().length,
+                      .blocks = {}};
+    for (const auto &[type, offset, length] : *places)
+        result.blocks.push_back({type, readBytes(file, offset, length)});
     return result;
+}
+
+std::optional<QByteArray> FLACBlocks::readComment(File &file)
+{
+    for (const auto &[type, offset, length] : findBlocks(file).value_or(std::vector<BlockPlace>()))
+        if (type == FLACBlockType::vorbisComment)
+            return readBytes(file, offset, length);
+    return {};
 }
 
 void FLACBlocks::write(File &file) const
 {
     QByteArray bytes;
-    for (const FLACBlock &block : blocks) {
-        if (block.type == FLACBlockType::padding)
-            continue;
-        appendHeader(bytes, block.type, block.data.size());
-        bytes += block.data;
-    }
-    const qint64 padding = paddingLength(end - start - bytes.size() - headerLength, file.length());
-    appendHeader(bytes, static_cast<char>(FLACBlockType::padding | lastBlockFlag), padding);
+    for (const FLACBlock &block : blocks)
+        if (block.type != FLACBlockType::padding)
+            bytes += FLACBlockHeader(block.type, block.data.size()) + block.data;
+    const qint64 padding =
+        paddingLength(end - start - bytes.size() - FLACBlockHeaderLength, file.length());
+    bytes += FLACBlockHeader(
+        static_cast<char>(FLACBlockType::padding | FLACBlockType::lastBlockFlag), padding);
     bytes.append(padding, '\0');
     file.insert(TagLibText::toByteVector(bytes), start, std::size_t(end - start));
 }
@@ -101,5 +129,5 @@ void FLACBlocks::removeID3Tags(File &file) const
     if (id3v1 > start && readBytes(file, id3v1, 3) == "TAG")
         file.removeBlock(id3v1, id3v1Length);
     if (hasID3v2(file))
-        file.removeBlock(0, std::size_t(start - headerLength));
+        file.removeBlock(0, std::size_t(start - streamMarkerLength));
 }

@@ -12,12 +12,19 @@ class File;
 /// A metadata block's length has 24 bits (RFC 9639 §8.1).
 inline constexpr qsizetype FLACLargestBlock = (1 << 24) - 1;
 
-/// The types of metadata blocks (RFC 9639 §8.1) that the engine changes.
+/// The types of metadata blocks (RFC 9639 §8.1) that the engines change, and how they stand in the
+/// first byte of a block.
 namespace FLACBlockType {
 inline constexpr char padding = 1;
 inline constexpr char vorbisComment = 4;
 inline constexpr char picture = 6;
+inline constexpr char mask = '\x7F';
+inline constexpr char lastBlockFlag = '\x80';
 } // namespace FLACBlockType
+
+/// What precedes the data of a block: the type, with or without the flag, and the length.
+QByteArray FLACBlockHeader(char type, qsizetype length);
+inline constexpr qsizetype FLACBlockHeaderLength = 4;
 
 struct FLACBlock
 {
@@ -34,6 +41,8 @@ struct FLACBlocks
 
     /// Nothing when the blocks are cut off.
     static std::optional<FLACBlocks> read(TagLib::File &file);
+    /// The data of the first Vorbis comment; nothing when there is none or the blocks are cut off.
+    static std::optional<QByteArray> readComment(TagLib::File &file);
     /// Puts the blocks in the place of those that were read. The audio keeps its place when the
     /// padding allows for it.
     void write(TagLib::File &file) const;

@@ -100,12 +100,7 @@ HRFResult<void> FLACMetaData::stripTags()
 
 std::optional<QByteArray> FLACMetaData::readCommentBytes() const
 {
-    const auto metadata = FLACBlocks::read(*tagFile());
-    if (!metadata)
-        return {};
-    const auto comment =
-        std::ranges::find(metadata->blocks, FLACBlockType::vorbisComment, &FLACBlock::type);
-    return comment == metadata->blocks.end() ? std::nullopt : std::optional(comment->data);
+    return FLACBlocks::readComment(*tagFile());
 }
 
 /// Writes the blocks without TagLib, which drops a second comment and unreadable pictures and

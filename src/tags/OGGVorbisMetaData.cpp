@@ -1,10 +1,10 @@
 #include "tags/OGGVorbisMetaData.h"
 
+#include "tags/FLACBlocks.h"
 #include "tags/HRFTagStream.h"
 #include "tags/OGGPages.h"
 
 #include <QCoreApplication>
-#include <QtEndian>
 #include <taglib/flacproperties.h>
 #include <taglib/oggflacfile.h>
 #include <taglib/vorbisfile.h>
@@ -16,25 +16,18 @@ namespace {
 
 constexpr const char *fileTypes[] = {"ogg", "oga"};
 
-/// A metadata block begins with its type and a length of 24 bits (RFC 9639 §8.1).
-constexpr qsizetype flacHeaderLength = 4;
-constexpr qsizetype largestFlacBlock = (1 << 24) - 1;
-
 /// The packet of the comment among the metadata packets, each a FLAC metadata block (Ogg FLAC
 /// mapping 1.0). TagLib reads the last one.
 std::optional<unsigned int> findFlacComment(File &file)
 {
-    constexpr char vorbisComment = 4;
-    constexpr char typeMask = '\x7F';
-    constexpr char lastBlockFlag = '\x80';
     std::optional<unsigned int> found;
     for (unsigned int index = 1;; ++index) {
         const auto block = OGGReadPacket(file, index);
         if (!block || block->isEmpty())
             return found;
-        if ((block->front() & typeMask) == vorbisComment)
+        if ((block->front() & FLACBlockType::mask) == FLACBlockType::vorbisComment)
             found = index;
-        if ((block->front() & lastBlockFlag) != 0)
+        if ((block->front() & FLACBlockType::lastBlockFlag) != 0)
             return found;
     }
 }
@@ -61,9 +54,9 @@ QVariant OGGVorbisMetaData::readValue(HRFTagKey key) const
 {
     if (key == HRFTagKey::format)
         return m_isFlac ? u"OGG FLAC"_s : u"OGG Vorbis"_s;
-    const auto *properties = dynamic_cast<const FLAC::Properties *>(audioProperties());
-    if (key == HRFTagKey::bitDepth && properties)
-        return qlonglong(properties->bitsPerSample());
+    if (key == HRFTagKey::bitDepth)
+        if (const auto *properties = dynamic_cast<const FLAC::Properties *>(audioProperties()))
+            return qlonglong(properties->bitsPerSample());
     return OGGMetaData::readValue(key);
 }
 
@@ -74,18 +67,17 @@ std::optional<OGGMetaData::CommentPlace> OGGVorbisMetaData::commentPlace() const
     const auto packet = findFlacComment(*tagFile());
     if (!packet)
         return {};
-    return CommentPlace{.packet = *packet, .prefixLength = flacHeaderLength};
+    return CommentPlace{.packet = *packet, .prefixLength = FLACBlockHeaderLength};
 }
 
 HRFResult<void> OGGVorbisMetaData::updatePrefix(QByteArray &prefix, qsizetype length) const
 {
     if (!m_isFlac)
         return {};
-    if (length > largestFlacBlock)
+    if (length > FLACLargestBlock)
         return std::unexpected(reasonError(QCoreApplication::translate(
             "OGGVorbisMetaData", "The tags of a FLAC stream cannot be larger than 16 MiB.")));
-    const quint32 header = (quint32(static_cast<unsigned char>(prefix[0])) << 24) | quint32(length);
-    qToBigEndian(header, prefix.data());
+    prefix = FLACBlockHeader(prefix.front(), length);
     return {};
 }
 
