@@ -5,6 +5,12 @@
 #include <QCoreApplication>
 #include <taglib/tfile.h>
 
+/// The tag of every Ogg file is one.
+TagLib::Ogg::XiphComment *OGGMetaData::xiphTag() const
+{
+    return static_cast<TagLib::Ogg::XiphComment *>(tagFile()->tag());
+}
+
 HRFResult<void> OGGMetaData::updatePrefix(QByteArray &, qsizetype) const
 {
     return {};
@@ -13,8 +19,10 @@ HRFResult<void> OGGMetaData::updatePrefix(QByteArray &, qsizetype) const
 std::optional<QByteArray> OGGMetaData::readCommentBytes() const
 {
     const auto place = commentPlace();
-    const auto packet = place ? OGGReadPacket(*tagFile(), place->packet) : std::nullopt;
-    return packet ? std::optional(packet->mid(place->prefixLength)) : std::nullopt;
+    auto packet = place ? OGGReadPacket(*tagFile(), place->packet) : std::nullopt;
+    if (packet)
+        packet->remove(0, place->prefixLength);
+    return packet;
 }
 
 HRFResult<void> OGGMetaData::writeCommentBytes(const QByteArray &bytes)

@@ -5,6 +5,9 @@
 /// The engine of every Ogg format: the comment is a packet of its own.
 class OGGMetaData : public VorbisMetaData
 {
+public:
+    TagLib::Ogg::XiphComment *xiphTag() const override;
+
 protected:
     /// Where a comment is.
     struct CommentPlace

@@ -18,11 +18,6 @@ namespace {
 
 using K = HRFTagKey;
 
-QVariant numberOrNothing(unsigned int number)
-{
-    return number == 0 ? QVariant() : QVariant(qlonglong(number));
-}
-
 QVariant readComment(const VorbisMetaData &engine, K)
 {
     const Ogg::XiphComment *comment = engine.xiphTag();
@@ -40,28 +35,19 @@ void writeComment(VorbisMetaData &engine, K, const QVariant &value)
     }
 }
 
-QVariant readYear(const VorbisMetaData &engine, K)
+/// TagLib knows the old names of these fields, too.
+template <unsigned int (Tag::*Read)() const> QVariant readNumber(const VorbisMetaData &engine, K)
 {
     const Ogg::XiphComment *comment = engine.xiphTag();
-    return numberOrNothing(comment ? comment->year() : 0);
+    const unsigned int number = comment ? (comment->*Read)() : 0;
+    return number == 0 ? QVariant() : QVariant(qlonglong(number));
 }
 
-void writeYear(VorbisMetaData &engine, K, const QVariant &value)
+template <void (Tag::*Write)(unsigned int)>
+void writeNumber(VorbisMetaData &engine, K, const QVariant &value)
 {
     if (Ogg::XiphComment *comment = engine.xiphTag())
-        comment->setYear(static_cast<unsigned int>(value.toLongLong()));
-}
-
-QVariant readTrackNumber(const VorbisMetaData &engine, K)
-{
-    const Ogg::XiphComment *comment = engine.xiphTag();
-    return numberOrNothing(comment ? comment->track() : 0);
-}
-
-void writeTrackNumber(VorbisMetaData &engine, K, const QVariant &value)
-{
-    if (Ogg::XiphComment *comment = engine.xiphTag())
-        comment->setTrack(static_cast<unsigned int>(value.toLongLong()));
+        (comment->*Write)(static_cast<unsigned int>(value.toLongLong()));
 }
 
 QVariant readFormat(const VorbisMetaData &, K)
@@ -115,10 +101,11 @@ void readFields(Ogg::XiphComment &comment, const VorbisCommentPacket &packet)
 std::set<QByteArray> changedFields(const Ogg::FieldListMap &before, const Ogg::FieldListMap &now)
 {
     std::set<QByteArray> names;
-    for (const Ogg::FieldListMap *fields : {&before, &now})
+    for (const Ogg::FieldListMap *fields : {&before, &now}) {
         for (const auto &[name, values] : *fields)
             if (before.value(name) != now.value(name))
                 names.insert(QByteArray::fromStdString(name.to8Bit()));
+    }
     return names;
 }
 
@@ -129,8 +116,8 @@ QByteArray renderedEntry(const QByteArray &name, const ByteVector &value)
 
 constexpr HRFFieldHandler<VorbisMetaData> handlers[] = {
     {K::comment, readComment, writeComment},
-    {K::year, readYear, writeYear},
-    {K::trackNumber, readTrackNumber, writeTrackNumber},
+    {K::year, readNumber<&Tag::year>, writeNumber<&Tag::setYear>},
+    {K::trackNumber, readNumber<&Tag::track>, writeNumber<&Tag::setTrack>},
     {K::format, readFormat},
     {K::tagVersion, readTagVersion},
     {K::frames, readFrames},
@@ -149,11 +136,6 @@ VorbisMetaData::VorbisMetaData(std::shared_ptr<HRFTagStream> stream)
 void VorbisMetaData::setTagFile(std::unique_ptr<File> file)
 {
     m_tagFile = std::move(file);
-}
-
-Ogg::XiphComment *VorbisMetaData::xiphTag() const
-{
-    return dynamic_cast<Ogg::XiphComment *>(m_tagFile->tag());
 }
 
 HRFText VorbisMetaData::stringForXiphTag(const char *tagName) const
@@ -244,13 +226,10 @@ HRFResult<void> VorbisMetaData::stripTags()
         return {};
     comment->removeAllFields();
     comment->removeAllPictures();
-    VorbisCommentPacket stripped;
-    if (m_packet) {
-        stripped.vendor = m_packet->vendor;
-        stripped.rest = m_packet->rest;
-    }
-    stripped.rest = strippedRest(stripped.rest);
-    m_packet = stripped;
+    if (!m_packet)
+        m_packet.emplace();
+    m_packet->entries.clear();
+    m_packet->rest = strippedRest(m_packet->rest);
     m_fields = {};
     return {};
 }
@@ -274,11 +253,11 @@ HRFResult<void> VorbisMetaData::checkFile()
     return {};
 }
 
-/// The packet with the entries replaced whose fields have changed. All others stay as they are,
-/// readable or not.
-VorbisCommentPacket VorbisMetaData::changedPacket(Ogg::XiphComment &comment) const
+/// The given packet with the entries replaced whose fields have changed. All others stay as they
+/// are, readable or not.
+VorbisCommentPacket VorbisMetaData::changedPacket(VorbisCommentPacket packet,
+                                                  Ogg::XiphComment &comment) const
 {
-    VorbisCommentPacket packet = *m_packet;
     const Ogg::FieldListMap &fields = comment.fieldListMap();
     const auto changed = changedFields(m_fields, fields);
     packet.entries.removeIf([&](const QByteArray &entry) {
@@ -288,21 +267,24 @@ VorbisCommentPacket VorbisMetaData::changedPacket(Ogg::XiphComment &comment) con
     for (const QByteArray &name : changed)
         for (const String &value : fields.value(String(name.toStdString())))
             packet.entries.append(renderedEntry(name, value.data(String::UTF8)));
-    if (m_hasChangedPictures)
-        for (const FLAC::Picture *picture : comment.pictureList())
-            packet.entries.append(
-                renderedEntry("METADATA_BLOCK_PICTURE", picture->render().toBase64()));
+    if (!m_hasChangedPictures)
+        return packet;
+    for (const FLAC::Picture *picture : comment.pictureList()) {
+        const ByteVector value = picture->render().toBase64();
+        packet.entries.append(renderedEntry("METADATA_BLOCK_PICTURE", value));
+    }
     return packet;
 }
 
 HRFResult<void> VorbisMetaData::saveTags()
 {
     Ogg::XiphComment *comment = xiphTag();
-    if (!m_packet || !comment)
+    if (!m_packet || !comment) {
         return std::unexpected(reasonError(QCoreApplication::translate(
             "VorbisMetaData",
             "Its tag is damaged: it ends before the last field that it states.")));
-    VorbisCommentPacket packet = changedPacket(*comment);
+    }
+    VorbisCommentPacket packet = changedPacket(*m_packet, *comment);
     if (auto saved = writeCommentBytes(packet.render()); !saved)
         return saved;
     m_packet = std::move(packet);

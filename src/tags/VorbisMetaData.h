@@ -11,7 +11,7 @@ class VorbisMetaData : public HRFTagEngine
 {
 public:
     /// The Vorbis comment of the open file; may be null.
-    virtual TagLib::Ogg::XiphComment *xiphTag() const;
+    virtual TagLib::Ogg::XiphComment *xiphTag() const = 0;
 
     /// All values of the field, joined with a space. A null field name is an assertion.
     HRFText stringForXiphTag(const char *tagName) const;
@@ -44,7 +44,8 @@ protected:
     void setCommentArtwork(const QByteArray &data);
 
 private:
-    VorbisCommentPacket changedPacket(TagLib::Ogg::XiphComment &comment) const;
+    VorbisCommentPacket changedPacket(VorbisCommentPacket packet,
+                                      TagLib::Ogg::XiphComment &comment) const;
 
     std::unique_ptr<TagLib::File> m_tagFile;
     std::optional<VorbisCommentPacket> m_packet; ///< as in the file; nothing when damaged
