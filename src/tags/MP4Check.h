@@ -5,11 +5,6 @@
 namespace TagLib {
 class File;
 }
-class HRFTagStream;
-
-/// Why TagLib must not read an MP4 file; empty when it may. It descends into nested atoms without
-/// any limit, and keeps every atom in memory.
-QString MP4ObstacleToOpening(HRFTagStream &stream);
 
 /// Why saving an MP4 file with TagLib would damage it; empty when it would not.
 QString MP4ObstacleToSaving(TagLib::File &file);

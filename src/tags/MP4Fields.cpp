@@ -122,10 +122,12 @@ QVariant readFrames(const MP4MetaData &engine, K)
     if (!tag || tag->isEmpty())
         return {};
     QList<HRFFrameDescription> frames;
-    for (const auto &[name, item] : tag->itemMap())
-        if (const StringList texts = item.toStringList(); !texts.isEmpty())
+    for (const auto &[name, item] : tag->itemMap()) {
+        const StringList texts = item.toStringList();
+        if (!texts.isEmpty())
             frames.append(
                 {TagLibText::toQString(name), TagLibText::toQString(texts.toString(", "))});
+    }
     return QVariant::fromValue(frames);
 }
 

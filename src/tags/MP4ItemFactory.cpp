@@ -117,6 +117,13 @@ ByteVector MP4ItemFactory::renderItem(const String &key, const MP4::Item &item) 
     return result;
 }
 
+/// TagLib would make the map for every factory, that is, for every file.
+MP4ItemFactory::NameHandlerMap MP4ItemFactory::nameHandlerMap() const
+{
+    static const NameHandlerMap map = ItemFactory::nameHandlerMap();
+    return map;
+}
+
 String MP4ItemFactory::keyOfUnreadable(const String &key)
 {
     return key + String(std::wstring(1, L'\uE000'));

@@ -27,6 +27,9 @@ public:
     /// The key of the item that stands for the atoms of a name that cannot be read.
     static TagLib::String keyOfUnreadable(const TagLib::String &key);
 
+protected:
+    NameHandlerMap nameHandlerMap() const override;
+
 private:
     struct Atom
     {

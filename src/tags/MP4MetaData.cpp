@@ -4,6 +4,7 @@
 #include "tags/HRFTagStream.h"
 #include "tags/MP4Check.h"
 #include "tags/MP4Fields.h"
+#include "tags/MP4Nesting.h"
 #include "tags/TagLibText.h"
 
 #include <taglib/mp4item.h>
@@ -150,10 +151,8 @@ HRFResult<void> MP4MetaData::stripTags()
     MP4::Tag *tag = m_tagFile->tag();
     if (!tag)
         return {};
-    std::vector<String> names;
-    for (const auto &[name, item] : tag->itemMap())
-        names.push_back(name);
-    for (const String &name : names)
+    const MP4::ItemMap items = tag->itemMap();
+    for (const auto &[name, item] : items)
         tag->removeItem(name);
     return {};
 }
