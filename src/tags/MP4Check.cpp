@@ -147,20 +147,8 @@ bool fragmentsAreFixed(File &file)
     return fragments > 1 && isPinned;
 }
 
-} // namespace
-
-QString MP4ObstacleToSaving(File &file)
+qint64 roomForMoving(File &file, const MP4::Atoms &atoms)
 {
-    const MP4::Atoms atoms(&file);
-    for (const auto &check : checks)
-        if (!check.isPassed(file, atoms))
-            return tr(check.obstacle);
-    return {};
-}
-
-qint64 MP4RoomForMoving(File &file)
-{
-    const MP4::Atoms atoms(&file);
     const MP4::Atom *movie = atoms.find("moov");
     if (!movie)
         return INT64_MAX;
@@ -173,6 +161,17 @@ qint64 MP4RoomForMoving(File &file)
     }
     // What stands before the tags does not move.
     return last > movie->offset() ? UINT32_MAX - last : INT64_MAX;
+}
+
+} // namespace
+
+MP4Layout MP4LayoutBeforeSaving(File &file)
+{
+    const MP4::Atoms atoms(&file);
+    for (const auto &check : checks)
+        if (!check.isPassed(file, atoms))
+            return {.obstacle = tr(check.obstacle)};
+    return {.obstacle = {}, .roomForMoving = roomForMoving(file, atoms)};
 }
 
 QString MP4FinishMoving(File &file, qint64 distance, qint64 room)

@@ -11,6 +11,7 @@
 #include <taglib/mp4tag.h>
 
 #include <cerrno>
+#include <utility>
 
 using namespace TagLib;
 
@@ -31,13 +32,19 @@ MP4MetaData::MP4MetaData(std::shared_ptr<HRFTagStream> file, bool readProperties
     openTagFile(readProperties);
 }
 
-/// TagLib's idea of the atoms is out of date once it has saved: the next save needs a new one.
 void MP4MetaData::openTagFile(bool readProperties)
 {
     m_itemFactory.forgetAllAtoms();
     HRFRewind(stream());
     m_tagFile = std::make_unique<MP4::File>(&stream(), readProperties, AudioProperties::Average,
                                             &m_itemFactory);
+}
+
+/// To be called before anything changes.
+void MP4MetaData::openAnewAfterSaving()
+{
+    if (std::exchange(m_hasSaved, false))
+        openTagFile(m_tagFile->audioProperties() != nullptr);
 }
 
 HRFResult<void> MP4MetaData::checkBeforeOpening(HRFTagStream &stream)
@@ -78,6 +85,7 @@ void MP4MetaData::removeValueForTag(const char *tagName)
 {
     HRFRequire(tagName, "tagName");
     const Lock guard = lock();
+    openAnewAfterSaving();
     m_itemFactory.forgetAtoms(tagName);
     if (MP4::Tag *tag = m_tagFile->tag()) {
         tag->removeItem(tagName);
@@ -148,6 +156,7 @@ HRFResult<void> MP4MetaData::stripTags()
 {
     const Lock guard = lock();
     forgetChanges();
+    openAnewAfterSaving();
     MP4::Tag *tag = m_tagFile->tag();
     if (!tag)
         return {};
@@ -173,15 +182,17 @@ void MP4MetaData::writeValue(const QVariant &value, HRFTagKey key)
 
 HRFResult<void> MP4MetaData::saveTags()
 {
-    if (const QString obstacle = MP4ObstacleToSaving(*m_tagFile); !obstacle.isEmpty())
-        return std::unexpected(reasonError(obstacle));
-    const qint64 room = MP4RoomForMoving(*m_tagFile);
+    openAnewAfterSaving();
+    const MP4Layout layout = MP4LayoutBeforeSaving(*m_tagFile);
+    if (!layout.obstacle.isEmpty())
+        return std::unexpected(reasonError(layout.obstacle));
     const qint64 oldLength = stream().length();
+    m_hasSaved = true;
     if (!m_tagFile->save())
         return std::unexpected(HRFError::fromErrno(EIO));
     const qint64 distance = stream().length() - oldLength;
-    if (const QString obstacle = MP4FinishMoving(*m_tagFile, distance, room); !obstacle.isEmpty())
+    const QString obstacle = MP4FinishMoving(*m_tagFile, distance, layout.roomForMoving);
+    if (!obstacle.isEmpty())
         return std::unexpected(reasonError(obstacle));
-    openTagFile(m_tagFile->audioProperties() != nullptr);
     return {};
 }

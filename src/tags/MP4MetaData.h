@@ -50,7 +50,9 @@ protected:
 
 private:
     void openTagFile(bool readProperties);
+    void openAnewAfterSaving();
 
     MP4ItemFactory m_itemFactory;
     std::unique_ptr<TagLib::MP4::File> m_tagFile;
+    bool m_hasSaved = false; ///< TagLib's idea of where the atoms are is out of date
 };

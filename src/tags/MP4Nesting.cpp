@@ -3,13 +3,13 @@
 #include "tags/HRFTagStream.h"
 
 #include <QCoreApplication>
+#include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <span>
 #include <string_view>
 #include <vector>
-
-using namespace TagLib;
 
 namespace {
 
@@ -28,18 +28,19 @@ public:
     std::size_t level() const { return m_ends.size(); }
 
 private:
-    ByteVector read(qint64 offset);
+    std::span<const char> read(qint64 offset);
     /// How far behind the header the first atom in a container begins; negative for other atoms.
     int childrenOffset(std::string_view name, qint64 offset);
 
     HRFTagStream &m_stream;
     const qint64 m_length;
     qint64 m_offset = 0;
+    std::array<char, 8> m_header{}; ///< read last
     std::vector<qint64> m_ends; ///< of the containers around the offset
 };
 
 /// The name in an atom's header; empty when that is cut off.
-std::string_view nameInHeader(const ByteVector &header)
+std::string_view nameInHeader(std::span<const char> header)
 {
     return header.size() < 8 ? std::string_view() : std::string_view(header.data() + 4, 4);
 }
@@ -53,30 +54,32 @@ bool AtomWalk::next()
 {
     while (!m_ends.empty() && m_offset >= m_ends.back())
         m_ends.pop_back();
-    const ByteVector header = read(m_offset);
+    const std::span<const char> header = read(m_offset);
     if (header.size() < 8)
         return false;
+    std::array<char, 4> name{};
+    std::ranges::copy(nameInHeader(header), name.begin());
     qint64 headerSize = 8;
-    qint64 size = header.toUInt();
+    qint64 size = qFromBigEndian<quint32>(header.data());
     if (size == 0) {
         size = m_length - m_offset;
     } else if (size == 1) {
-        size = read(m_offset + headerSize).toLongLong();
+        const std::span<const char> bytes = read(m_offset + headerSize);
+        size = bytes.size() < 8 ? 0 : qFromBigEndian<qint64>(bytes.data());
         headerSize = 16;
     }
     if (size < 8 || size > m_length - m_offset)
         return false;
-    const int children = childrenOffset(nameInHeader(header), m_offset + headerSize);
+    const int children = childrenOffset({name.data(), name.size()}, m_offset + headerSize);
     if (children >= 0)
         m_ends.push_back(m_offset + size);
     m_offset += children >= 0 ? headerSize + children : size;
     return true;
 }
 
-ByteVector AtomWalk::read(qint64 offset)
+std::span<const char> AtomWalk::read(qint64 offset)
 {
-    m_stream.seek(offset, HRFTagStream::Beginning);
-    return m_stream.readBlock(8);
+    return std::span(m_header).first(m_stream.readAt(offset, m_header));
 }
 
 int AtomWalk::childrenOffset(std::string_view name, qint64 offset)
