@@ -7,12 +7,13 @@
 #include <taglib/tfile.h>
 
 #include <algorithm>
+#include <ranges>
 
 using namespace TagLib;
 
 namespace {
 
-constexpr qint64 streamMarkerLength = 4; ///< of "fLaC"
+constexpr QByteArrayView streamMarker("fLaC");
 
 QByteArray readBytes(File &file, qint64 offset, qint64 length)
 {
@@ -33,38 +34,7 @@ qint64 findStream(File &file)
         file.seek(0);
         behindTag = ID3v2::Header(file.readBlock(ID3v2::Header::size())).completeTagSize();
     }
-    return file.find("fLaC", behindTag);
-}
-
-/// A block whose data has not been read.
-struct BlockPlace
-{
-    char type;
-    qint64 offset; ///< of the data
-    qint64 length; ///< of the data
-};
-
-/// All blocks, of which there is at least one; nothing when they are cut off.
-std::optional<std::vector<BlockPlace>> findBlocks(File &file)
-{
-    const qint64 stream = findStream(file);
-    if (stream < 0)
-        return {};
-    std::vector<BlockPlace> places;
-    qint64 offset = stream + streamMarkerLength;
-    for (bool isLast = false; !isLast;) {
-        const QByteArray header = readBytes(file, offset, FLACBlockHeaderLength);
-        if (header.size() < FLACBlockHeaderLength)
-            return {};
-        const qint64 length = qFromBigEndian<quint32>(header.constData()) & FLACLargestBlock;
-        offset += FLACBlockHeaderLength;
-        if (length > file.length() - offset)
-            return {};
-        places.push_back({static_cast<char>(header.front() & FLACBlockType::mask), offset, length});
-        offset += length;
-        isLast = (header.front() & FLACBlockType::lastBlockFlag) != 0;
-    }
-    return places;
+    return file.find(TagLibText::toByteVector(streamMarker.toByteArray()), behindTag);
 }
 
 /// The padding that makes the blocks as long as they were. Much of it is given back, since a
@@ -77,6 +47,12 @@ qint64 paddingLength(qint64 left, qint64 fileLength)
     return left < 0 || left > limit ? usual : left;
 }
 
+QByteArray paddingBlock(qint64 length)
+{
+    constexpr char type = static_cast<char>(FLACBlockType::padding | FLACBlockType::lastBlockFlag);
+    return FLACBlockHeader(type, length) + QByteArray(length, '\0');
+}
+
 } // namespace
 
 QByteArray FLACBlockHeader(char type, qsizetype length)
@@ -87,39 +63,85 @@ QByteArray FLACBlockHeader(char type, qsizetype length)
     return header;
 }
 
+FLACBlock FLACBlock::withData(char type, const QByteArray &data)
+{
+    return {.type = type, .length = data.size(), .newData = data};
+}
+
 std::optional<FLACBlocks> FLACBlocks::read(File &file)
 {
-    const auto places = findBlocks(file);
-    if (!places)
+    const qint64 stream = findStream(file);
+    if (stream < 0)
         return {};
-    FLACBlocks result{.start = places->front().offset - FLACBlockHeaderLength,
-                      .end = places->back().offset + places->back().length,
-                      .blocks = {}};
-    for (const auto &[type, offset, length] : *places)
-        result.blocks.push_back({type, readBytes(file, offset, length)});
+    const qint64 start = stream + streamMarker.size();
+    FLACBlocks result{.start = start, .end = start, .blocks = {}};
+    for (bool isLast = false; !isLast;) {
+        const QByteArray header = readBytes(file, result.end, FLACBlockHeaderLength);
+        if (header.size() < FLACBlockHeaderLength)
+            return {};
+        const qint64 length = qFromBigEndian<quint32>(header.constData()) & FLACLargestBlock;
+        const qint64 offset = result.end + FLACBlockHeaderLength;
+        if (length > file.length() - offset)
+            return {};
+        result.blocks.push_back({.type = static_cast<char>(header.front() & FLACBlockType::mask),
+                                 .offset = offset,
+                                 .length = length});
+        result.end = offset + length;
+        isLast = (header.front() & FLACBlockType::lastBlockFlag) != 0;
+    }
     return result;
 }
 
 std::optional<QByteArray> FLACBlocks::readComment(File &file)
 {
-    for (const auto &[type, offset, length] : findBlocks(file).value_or(std::vector<BlockPlace>()))
-        if (type == FLACBlockType::vorbisComment)
-            return readBytes(file, offset, length);
+    for (const FLACBlock &block : read(file).value_or(FLACBlocks()).blocks)
+        if (block.type == FLACBlockType::vorbisComment)
+            return readBytes(file, block.offset, block.length);
     return {};
 }
 
+std::optional<QByteArray> FLACBlocks::excerpt(File &file)
+{
+    const auto metadata = read(file);
+    if (!metadata)
+        return {};
+    QByteArray bytes = streamMarker.toByteArray();
+    for (const FLACBlock &block : metadata->blocks)
+        if (block.type == FLACBlockType::streamInfo || block.type == FLACBlockType::vorbisComment)
+            bytes += FLACBlockHeader(block.type, block.length)
+                + readBytes(file, block.offset, block.length);
+    return bytes + paddingBlock(0);
+}
+
+/// Goes backwards, so that the places of the blocks that stay as they are remain known.
 void FLACBlocks::write(File &file) const
 {
-    QByteArray bytes;
+    qint64 length = FLACBlockHeaderLength;
     for (const FLACBlock &block : blocks)
         if (block.type != FLACBlockType::padding)
-            bytes += FLACBlockHeader(block.type, block.data.size()) + block.data;
-    const qint64 padding =
-        paddingLength(end - start - bytes.size() - FLACBlockHeaderLength, file.length());
-    bytes += FLACBlockHeader(
-        static_cast<char>(FLACBlockType::padding | FLACBlockType::lastBlockFlag), padding);
-    bytes.append(padding, '\0');
-    file.insert(TagLibText::toByteVector(bytes), start, std::size_t(end - start));
+            length += FLACBlockHeaderLength + block.length;
+    QByteArray bytes = paddingBlock(paddingLength(end - start - length, file.length()));
+    qint64 done = end;
+    const auto putBytesBehind = [&](qint64 offset) {
+        if (!bytes.isEmpty() || offset < done)
+            file.insert(TagLibText::toByteVector(bytes), offset, std::size_t(done - offset));
+        bytes.clear();
+    };
+    for (const FLACBlock &block : blocks | std::views::reverse) {
+        if (block.type == FLACBlockType::padding)
+            continue;
+        const QByteArray header = FLACBlockHeader(block.type, block.length);
+        if (block.newData) {
+            bytes.prepend(header + *block.newData);
+            continue;
+        }
+        putBytesBehind(block.offset + block.length);
+        done = block.offset - FLACBlockHeaderLength;
+        // The block may have been the last one.
+        file.seek(done);
+        file.writeBlock(TagLibText::toByteVector(header));
+    }
+    putBytesBehind(start);
 }
 
 void FLACBlocks::removeID3Tags(File &file) const
@@ -129,5 +151,5 @@ void FLACBlocks::removeID3Tags(File &file) const
     if (id3v1 > start && readBytes(file, id3v1, 3) == "TAG")
         file.removeBlock(id3v1, id3v1Length);
     if (hasID3v2(file))
-        file.removeBlock(0, std::size_t(start - streamMarkerLength));
+        file.removeBlock(0, std::size_t(start - streamMarker.size()));
 }

@@ -3,6 +3,7 @@
 #include "kit/HRFUserDefaults.h"
 #include "tags/FLACBlocks.h"
 #include "tags/FLACPicture.h"
+#include "tags/HRFStreamOfBytes.h"
 #include "tags/HRFTagStream.h"
 #include "tags/TagLibText.h"
 
@@ -98,6 +99,16 @@ HRFResult<void> FLACMetaData::stripTags()
     return VorbisMetaData::stripTags();
 }
 
+/// Without artwork, the pictures need not be read again.
+std::shared_ptr<HRFTagStream>
+FLACMetaData::streamForReading(const std::map<HRFTagKey, QVariant> &values) const
+{
+    if (!values.empty() && !values.contains(HRFTagKey::artwork))
+        if (auto excerpt = FLACBlocks::excerpt(*tagFile()))
+            return HRFStreamOfBytes(*std::move(excerpt));
+    return VorbisMetaData::streamForReading(values);
+}
+
 std::optional<QByteArray> FLACMetaData::readCommentBytes() const
 {
     return FLACBlocks::readComment(*tagFile());
@@ -122,9 +133,9 @@ HRFResult<void> FLACMetaData::writeCommentBytes(const QByteArray &bytes)
     });
     const auto comment = std::ranges::find(blocks, FLACBlockType::vorbisComment, &FLACBlock::type);
     if (comment != blocks.end())
-        comment->data = bytes;
+        *comment = FLACBlock::withData(FLACBlockType::vorbisComment, bytes);
     else if (hasComment || !m_isStripping)
-        blocks.push_back({FLACBlockType::vorbisComment, bytes});
+        blocks.push_back(FLACBlock::withData(FLACBlockType::vorbisComment, bytes));
     if (auto appended = appendPictures(blocks); !appended)
         return appended;
 
@@ -141,8 +152,9 @@ HRFResult<void> FLACMetaData::appendPictures(std::vector<FLACBlock> &blocks) con
     if (!m_hasChangedPictures)
         return {};
     for (const FLAC::Picture *picture : tagFile()->pictureList()) {
-        blocks.push_back({FLACBlockType::picture, TagLibText::toQByteArray(picture->render())});
-        if (blocks.back().data.size() > FLACLargestBlock)
+        const QByteArray data = TagLibText::toQByteArray(picture->render());
+        blocks.push_back(FLACBlock::withData(FLACBlockType::picture, data));
+        if (data.size() > FLACLargestBlock)
             return std::unexpected(reasonError(QCoreApplication::translate(
                 "FLACMetaData", "A picture in a FLAC file cannot be larger than 16 MiB.")));
     }

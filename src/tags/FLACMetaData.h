@@ -32,6 +32,8 @@ protected:
     const HRFEngineClass &engineClass() const override { return metadataClass; }
     TagLib::FLAC::File *tagFile() const override;
     std::optional<QByteArray> readCommentBytes() const override;
+    std::shared_ptr<HRFTagStream>
+    streamForReading(const std::map<HRFTagKey, QVariant> &values) const override;
     HRFResult<void> writeCommentBytes(const QByteArray &bytes) override;
 
 private:

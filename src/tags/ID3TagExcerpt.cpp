@@ -1,5 +1,6 @@
 #include "tags/ID3TagExcerpt.h"
 
+#include "tags/HRFStreamOfBytes.h"
 #include "tags/HRFTagStream.h"
 #include "tags/ID3FrameHeader.h"
 
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 
 using namespace TagLib;
 
@@ -15,35 +15,6 @@ namespace {
 
 constexpr unsigned int headerSize = ID3FrameHeader::length; ///< the tag's own has the same
 using Header = std::array<char, headerSize>;
-
-/// Bytes that are only read.
-class ExcerptStore : public HRFByteStore
-{
-public:
-    explicit ExcerptStore(QByteArray bytes) : m_bytes(std::move(bytes)) { }
-
-    const QByteArray &name() const override { return m_name; }
-    qint64 size() const override { return m_bytes.size(); }
-    bool isWritable() const override { return false; }
-
-    qint64 readAt(qint64 offset, std::span<char> buffer) override
-    {
-        const QByteArrayView part = QByteArrayView(m_bytes).sliced(std::min(offset, size()));
-        const qint64 count = std::min(part.size(), qsizetype(buffer.size()));
-        std::copy_n(part.begin(), count, buffer.begin());
-        return count;
-    }
-
-    HRFResult<void> prepareWriting(qint64) override { return readOnly(); }
-    HRFResult<void> writeAt(qint64, std::span<const char>) override { return readOnly(); }
-    HRFResult<void> finishWriting(qint64) override { return readOnly(); }
-
-private:
-    static HRFResult<void> readOnly() { return std::unexpected(HRFError::fromErrno(EROFS)); }
-
-    QByteArray m_name;
-    QByteArray m_bytes;
-};
 
 bool isPlainHeader(const Header &header)
 {
@@ -88,6 +59,5 @@ std::shared_ptr<HRFTagStream> ID3TagExcerpt(HRFTagStream &stream,
         }
         offset += size;
     }
-    return std::make_shared<HRFTagStream>(
-        std::make_unique<ExcerptStore>(tagWithFrames(header, std::move(frames))));
+    return HRFStreamOfBytes(tagWithFrames(header, std::move(frames)));
 }
