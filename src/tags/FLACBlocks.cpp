@@ -100,17 +100,15 @@ std::optional<QByteArray> FLACBlocks::readComment(File &file)
     return {};
 }
 
-std::optional<QByteArray> FLACBlocks::excerpt(File &file)
+std::optional<QByteArray> FLACBlocks::fileWithComment(const QByteArray &comment, File &file)
 {
     const auto metadata = read(file);
     if (!metadata)
         return {};
-    QByteArray bytes = streamMarker.toByteArray();
-    for (const FLACBlock &block : metadata->blocks)
-        if (block.type == FLACBlockType::streamInfo || block.type == FLACBlockType::vorbisComment)
-            bytes += FLACBlockHeader(block.type, block.length)
-                + readBytes(file, block.offset, block.length);
-    return bytes + paddingBlock(0);
+    const FLACBlock &first = metadata->blocks.front();
+    return streamMarker.toByteArray() + FLACBlockHeader(first.type, first.length)
+        + readBytes(file, first.offset, first.length)
+        + FLACBlockHeader(FLACBlockType::vorbisComment, comment.size()) + comment + paddingBlock(0);
 }
 
 /// Goes backwards, so that the places of the blocks that stay as they are remain known.

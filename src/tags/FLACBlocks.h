@@ -15,7 +15,6 @@ inline constexpr qsizetype FLACLargestBlock = (1 << 24) - 1;
 /// The types of metadata blocks (RFC 9639 §8.1) that the engines change, and how they stand in the
 /// first byte of a block.
 namespace FLACBlockType {
-inline constexpr char streamInfo = 0;
 inline constexpr char padding = 1;
 inline constexpr char vorbisComment = 4;
 inline constexpr char picture = 6;
@@ -49,9 +48,9 @@ struct FLACBlocks
     static std::optional<FLACBlocks> read(TagLib::File &file);
     /// The data of the first Vorbis comment; nothing when there is none or the blocks are cut off.
     static std::optional<QByteArray> readComment(TagLib::File &file);
-    /// A FLAC file of its own that has the stream information and the Vorbis comments, but neither
+    /// A FLAC file of its own that has the stream information and the given comment, but neither
     /// pictures nor audio; nothing when the blocks are cut off.
-    static std::optional<QByteArray> excerpt(TagLib::File &file);
+    static std::optional<QByteArray> fileWithComment(const QByteArray &comment, TagLib::File &file);
     /// Puts the blocks, new ones among them, in the place of those that were read, in their order.
     /// The audio keeps its place when the padding allows for it.
     void write(TagLib::File &file) const;

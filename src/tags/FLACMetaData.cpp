@@ -99,13 +99,17 @@ HRFResult<void> FLACMetaData::stripTags()
     return VorbisMetaData::stripTags();
 }
 
-/// Without artwork, the pictures need not be read again.
+/// Unless the artwork has been set, a comment with the fields of the properties is enough.
 std::shared_ptr<HRFTagStream>
 FLACMetaData::streamForReading(const std::map<HRFTagKey, QVariant> &values) const
 {
-    if (!values.empty() && !values.contains(HRFTagKey::artwork))
-        if (auto excerpt = FLACBlocks::excerpt(*tagFile()))
+    const auto bytes = readCommentBytes();
+    const auto packet = bytes ? VorbisCommentPacket::parse(*bytes) : std::nullopt;
+    if (packet && !values.empty() && !values.contains(HRFTagKey::artwork)) {
+        const QByteArray comment = packetOfValues(*packet, values).render();
+        if (auto excerpt = FLACBlocks::fileWithComment(comment, *tagFile()))
             return HRFStreamOfBytes(*std::move(excerpt));
+    }
     return VorbisMetaData::streamForReading(values);
 }
 

@@ -101,11 +101,16 @@ void readFields(Ogg::XiphComment &comment, const VorbisCommentPacket &packet)
 std::set<QByteArray> changedFields(const Ogg::FieldListMap &before, const Ogg::FieldListMap &now)
 {
     std::set<QByteArray> names;
-    for (const Ogg::FieldListMap *fields : {&before, &now}) {
-        for (const auto &[name, values] : *fields)
-            if (before.value(name) != now.value(name))
+    const auto addMissing = [&names](const Ogg::FieldListMap &fields,
+                                     const Ogg::FieldListMap &others) {
+        for (const auto &[name, values] : fields) {
+            const auto other = others.find(name);
+            if (other == others.end() || other->second != values)
                 names.insert(QByteArray::fromStdString(name.to8Bit()));
-    }
+        }
+    };
+    addMissing(before, now);
+    addMissing(now, before);
     return names;
 }
 
@@ -251,6 +256,20 @@ HRFResult<void> VorbisMetaData::checkFile()
         m_fields = comment->fieldListMap();
     }
     return {};
+}
+
+VorbisCommentPacket VorbisMetaData::packetOfValues(VorbisCommentPacket packet,
+                                                   const std::map<HRFTagKey, QVariant> &values)
+{
+    // TagLib reads the year, the track number and the comment from several fields.
+    std::set<QByteArray> names = {"DATE",     "YEAR",        "TRACKNUMBER",
+                                  "TRACKNUM", "DESCRIPTION", "COMMENT"};
+    for (const auto &[key, value] : values)
+        if (const char *name = xiphTagNameForKey(key))
+            names.insert(name);
+    packet.entries.removeIf(
+        [&names](const QByteArray &entry) { return !names.contains(VorbisEntryName(entry)); });
+    return packet;
 }
 
 /// The given packet with the entries replaced whose fields have changed. All others stay as they

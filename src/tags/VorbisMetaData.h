@@ -39,6 +39,10 @@ protected:
     /// What stays behind the entries of a comment when they are stripped.
     virtual QByteArray strippedRest(const QByteArray &rest) const;
 
+    /// The packet without the fields that none of the given properties is read from.
+    static VorbisCommentPacket packetOfValues(VorbisCommentPacket packet,
+                                              const std::map<HRFTagKey, QVariant> &values);
+
     /// Pictures in the comment.
     QByteArray commentArtwork() const;
     void setCommentArtwork(const QByteArray &data);
