@@ -1,18 +1,10 @@
 #include "fuzz/HRFFuzzTarget.h"
 
-#include "fuzz/HRFMemoryByteStore.h"
-#include "kit/HRFUserDefaults.h"
-#include "tags/AIFFMetaData.h"
-#include "tags/DSDIFFMetaData.h"
-#include "tags/DSFMetaData.h"
-#include "tags/FLACMetaData.h"
+#include "support/HRFMemoryByteStore.h"
+#include "support/HRFSettings.h"
+#include "tags/HRFEngineRegistry.h"
 #include "tags/HRFTagStream.h"
-#include "tags/MP4MetaData.h"
 #include "tags/MPEGMetaData.h"
-#include "tags/OGGOpusMetaData.h"
-#include "tags/OGGSpeexMetaData.h"
-#include "tags/OGGVorbisMetaData.h"
-#include "tags/WAVMetaData.h"
 
 #include <map>
 #include <utility>
@@ -25,24 +17,23 @@ using EngineResult = HRFResult<std::unique_ptr<HRFTagEngine>>;
 using Values = std::map<HRFTagKey, QVariant>;
 
 /// Every other input is tagged with settings other than the shipped ones, which reach further.
-void chooseSettings(bool areShippedOnes)
+HRFSettings::Values settingsFor(bool areShippedOnes)
 {
-    HRFUserDefaults &defaults = HRFUserDefaults::standard();
-    defaults.setOverride(areShippedOnes ? u"48"_s : u"316"_s, u"lirra.tagging.ID3v2Version"_s);
-    defaults.setOverride(!areShippedOnes, u"lirra.tagging.MPEG.ID3v1"_s);
-    defaults.setOverride(!areShippedOnes, u"lirra.tagging.MPEG.APE"_s);
-    defaults.setOverride(areShippedOnes ? 0 : 2,
-                         u"lirra.tagging.preferredFLACArtworkStorageType"_s);
-    for (const QString &key : {u"lirra.tagging.MPEG.ID3v2"_s, u"lirra.tagging.RIFF.ID3v2"_s,
-                               u"lirra.tagging.RIFF.INFO"_s})
-        defaults.setOverride(true, key);
-    ID3MetaData::registerStringEncodingPreference();
+    return {{"ID3v2Version", areShippedOnes ? 48 : 316},
+            {"MPEG.ID3v2", true},
+            {"MPEG.ID3v1", !areShippedOnes},
+            {"MPEG.APE", !areShippedOnes},
+            {"RIFF.ID3v2", true},
+            {"RIFF.INFO", true},
+            {"preferredFLACArtworkStorageType", areShippedOnes ? 0 : 2}};
 }
 
 EngineResult open(const HRFEngineClass &engineClass, QByteArray &bytes)
 {
+    static HRFFaults none;
     return engineClass.initWithStream(
-        std::make_shared<HRFTagStream>(std::make_unique<HRFMemoryByteStore>(bytes)), true);
+        std::make_shared<HRFTagStream>(std::make_unique<HRFMemoryByteStore>(bytes, none, "memory")),
+        true);
 }
 
 Values readAll(const HRFTagEngine &engine)
@@ -54,11 +45,6 @@ Values readAll(const HRFTagEngine &engine)
         static_cast<void>(engine.stringForKey(key));
     }
     return values;
-}
-
-QByteArray smallPicture()
-{
-    return QByteArray("\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0\xFF\xD9", 22);
 }
 
 const Values &newValues()
@@ -86,7 +72,7 @@ const Values &newValues()
         {K::isPodcast, true},
         {K::releaseTime, QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC)},
         {K::originalReleaseDate, QDateTime(QDate(1987, 6, 5), QTime(0, 0), Qt::UTC)},
-        {K::artwork, smallPicture()},
+        {K::artwork, "\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0\xFF\xD9"_ba},
     };
     return values;
 }
@@ -134,20 +120,14 @@ QString checkStripping(const HRFEngineClass &engineClass, HRFTagEngine &engine, 
 
 const HRFEngineClass *HRFFuzzEngineClass(const QByteArray &family)
 {
-    static const std::map<QByteArray, const HRFEngineClass *> classes = {
-        {"mpeg", &MPEGMetaData::metadataClass}, {"mp4", &MP4MetaData::metadataClass},
-        {"flac", &FLACMetaData::metadataClass}, {"opus", &OGGOpusMetaData::metadataClass},
-        {"wav", &WAVMetaData::metadataClass},   {"vorbis", &OGGVorbisMetaData::metadataClass},
-        {"dsf", &DSFMetaData::metadataClass},   {"dsdiff", &DSDIFFMetaData::metadataClass},
-        {"aiff", &AIFFMetaData::metadataClass}, {"speex", &OGGSpeexMetaData::metadataClass},
-    };
-    const auto found = classes.find(family);
-    return found == classes.end() ? nullptr : found->second;
+    static const QHash<QByteArray, QByteArray> otherTypes = {
+        {"mpeg", "mp3"}, {"vorbis", "ogg"}, {"speex", "spx"}};
+    return HRFEngineRegistry::shared().classForType(otherTypes.value(family, family));
 }
 
 QString HRFFuzzOneInput(const HRFEngineClass &engineClass, const QByteArray &contents)
 {
-    chooseSettings(contents.size() % 2 == 0);
+    const HRFSettings settings(settingsFor(contents.size() % 2 == 0));
     QByteArray bytes(contents.constData(), contents.size());
     const EngineResult engine = open(engineClass, bytes);
     if (!engine)

@@ -4,38 +4,39 @@
 #include "tags/HRFMapManager.h"
 #include "tags/ID3MetaData.h"
 
-/// The shipped settings of tagging for the time of a test, whatever the user's own are.
+#include <vector>
+
+/// Settings of tagging that hold until the end of the scope.
 class HRFSettings
 {
 public:
-    HRFSettings()
-    {
-        set("ID3v2Version", QStringLiteral("48"));
-        set("iTunesID3v2Compatibility", false);
-        setTags(true, false, false);
-    }
+    using Values = std::vector<std::pair<const char *, QVariant>>;
+
+    explicit HRFSettings(Values values = {}) : m_values(std::move(values)) { apply(m_values); }
     HRFSettings(const HRFSettings &) = delete;
     HRFSettings &operator=(const HRFSettings &) = delete;
     ~HRFSettings()
     {
-        for (const char *name :
-             {"ID3v2Version", "iTunesID3v2Compatibility", "MPEG.ID3v2", "MPEG.ID3v1", "MPEG.APE"})
-            set(name, {});
+        for (auto &[name, value] : m_values)
+            value = {};
+        apply(m_values);
     }
 
-    void set(const char *name, const QVariant &value)
+private:
+    static void apply(const Values &values)
     {
-        const QString key = QStringLiteral("lirra.tagging.") + QString::fromLatin1(name);
-        HRFUserDefaults::standard().setOverride(value, key);
+        for (const auto &[name, value] : values)
+            HRFUserDefaults::standard().setOverride(
+                value, QStringLiteral("lirra.tagging.") + QString::fromLatin1(name));
         ID3MetaData::registerStringEncodingPreference();
         HRFMapManager::sharedMapManager().updateMappingPreferences();
     }
 
-    /// Switches the tags of MPEG files on and off.
-    void setTags(bool ID3v2, bool ID3v1, bool APE)
-    {
-        set("MPEG.ID3v2", ID3v2);
-        set("MPEG.ID3v1", ID3v1);
-        set("MPEG.APE", APE);
-    }
+    Values m_values;
 };
+
+/// Which tags MPEG files keep.
+inline HRFSettings::Values HRFMPEGTags(bool ID3v2, bool ID3v1, bool APE)
+{
+    return {{"MPEG.ID3v2", ID3v2}, {"MPEG.ID3v1", ID3v1}, {"MPEG.APE", APE}};
+}
