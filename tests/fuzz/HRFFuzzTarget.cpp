@@ -50,30 +50,20 @@ Values readAll(const HRFTagEngine &engine)
 const Values &newValues()
 {
     using K = HRFTagKey;
+    // clang-format off
     static const Values values = {
-        {K::title, u"A new title"_s},
-        {K::artist, u"Bj\u00f6rk \u97f3\u697d \U0001F3B5"_s},
-        {K::comment, u"Some words"_s},
-        {K::genre, u"Jazz"_s},
-        {K::lyrics, u"One line\nand another"_s},
-        {K::website, u"https://example.org/\u00fc"_s},
-        {K::work, u"A work"_s},
-        {K::involvedPeopleList, u"Someone"_s},
-        {K::sortTitle, QString()},
-        {K::year, 1999LL},
-        {K::trackNumber, 3LL},
-        {K::trackTotal, 12LL},
-        {K::discNumber, 1LL},
-        {K::discTotal, 2LL},
-        {K::movementNumber, 4LL},
-        {K::bpm, 120LL},
-        {K::rating, 200LL},
-        {K::isPartOfACompilation, true},
-        {K::isPodcast, true},
+        {K::title, u"A new title"_s}, {K::artist, u"Bj\u00f6rk \u97f3\u697d \U0001F3B5"_s},
+        {K::comment, u"Some words"_s}, {K::genre, u"Jazz"_s},
+        {K::lyrics, u"One line\nand another"_s}, {K::website, u"https://example.org/\u00fc"_s},
+        {K::work, u"A work"_s}, {K::involvedPeopleList, u"Someone"_s}, {K::sortTitle, QString()},
+        {K::year, 1999LL}, {K::trackNumber, 3LL}, {K::trackTotal, 12LL}, {K::discNumber, 1LL},
+        {K::discTotal, 2LL}, {K::movementNumber, 4LL}, {K::bpm, 120LL}, {K::rating, 200LL},
+        {K::isPartOfACompilation, true}, {K::isPodcast, true},
         {K::releaseTime, QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC)},
         {K::originalReleaseDate, QDateTime(QDate(1987, 6, 5), QTime(0, 0), Qt::UTC)},
         {K::artwork, "\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0\xFF\xD9"_ba},
     };
+    // clang-format on
     return values;
 }
 

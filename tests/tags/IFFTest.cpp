@@ -24,6 +24,7 @@ struct Case
     const char *reason = ""; ///< why it is refused; then nothing may change
     QByteArrayList kept = {}; ///< bytes that are still in the file
     QByteArrayList gone = {}; ///< bytes that are not in the file any more
+    bool strips = false;
 };
 
 void PrintTo(const Case &test, std::ostream *out)
@@ -33,7 +34,8 @@ void PrintTo(const Case &test, std::ostream *out)
 
 std::string nameOf(const testing::TestParamInfo<Case> &info)
 {
-    return info.param.fileType.toStdString() + '_' + info.param.name;
+    return info.param.fileType.toStdString() + info.param.name
+        + (info.param.strips ? "Stripped" : "");
 }
 
 const char *const brokenOff =
@@ -208,6 +210,7 @@ std::vector<Case> DSDIFFCases()
     };
 }
 
+/// Files whose tags are removed.
 std::vector<Case> strippedCases()
 {
     const QByteArray twoTags =
@@ -224,25 +227,26 @@ std::vector<Case> strippedCases()
     };
 }
 
-constexpr quint64 tagStart = 28 + 52 + 12 + 8192;
+constexpr qint64 tagStart = 28 + 52 + 12 + 8192;
 
 /// A DSF file whose header says what it is told to.
-QByteArray dsf(quint64 fileSize, quint64 tagOffset, const QByteArray &tail = "",
-               quint64 audioSize = 12 + 8192)
+QByteArray dsf(qint64 fileSize, qint64 tagOffset, const QByteArray &tail = "",
+               qint64 audioSize = 12 + 8192)
 {
     QByteArray format;
     for (const quint64 number : {1, 0, 2, 2, 2822400, 1})
         format += littleEndian(number);
-    return "DSD " + littleEndian(28, 8) + littleEndian(fileSize, 8) + littleEndian(tagOffset, 8)
-        + "fmt " + littleEndian(52, 8) + format + littleEndian(32768, 8) + littleEndian(4096)
-        + littleEndian(0) + "data" + littleEndian(audioSize, 8) + audio(8192) + tail;
+    const auto number = [](qint64 value) { return littleEndian(quint64(value), 8); };
+    return "DSD " + number(28) + number(fileSize) + number(tagOffset) + "fmt " + number(52) + format
+        + number(32768) + littleEndian(4096) + littleEndian(0) + "data" + number(audioSize)
+        + audio(8192) + tail;
 }
 
 std::vector<Case> DSFCases(bool strips)
 {
     const char *const damaged = "Its header does not fit its contents.";
     const QByteArray id3 = tag("Title");
-    const quint64 end = tagStart + quint64(id3.size());
+    const qint64 end = tagStart + id3.size();
     const QByteArrayList titles = {"Title", foreign.content};
     const QByteArrayList kept = strips ? QByteArrayList() : titles;
     const QByteArrayList gone = strips ? titles : QByteArrayList();
@@ -254,9 +258,9 @@ std::vector<Case> DSFCases(bool strips)
         {"dsf", "NoTagAtOffset", dsf(tagStart + 8, tagStart, "whatever"), damaged},
         {"dsf", "SizeZero", dsf(0, 0), damaged},
         {"dsf", "SizeInAudio", dsf(4000, 0), damaged},
-        {"dsf", "SizeNegative", dsf(quint64(-5), 0), "It does not contain DSF audio"},
+        {"dsf", "SizeNegative", dsf(-5, 0), "It does not contain DSF audio"},
         {"dsf", "NoAudioSize", dsf(tagStart, 0, "", 0), damaged},
-        {"dsf", "AudioNegative", dsf(tagStart, 0, "", quint64(-5)), damaged},
+        {"dsf", "AudioNegative", dsf(tagStart, 0, "", -5), damaged},
         {"dsf", "AudioCutOff", dsf(tagStart, 0, "", 9000), truncated},
         {"dsf", "Trailing", dsf(tagStart, 0, "TRAILING"), "", {"TRAILING"}},
         {"dsf", "BehindTag", dsf(end, tagStart, id3 + "TRAILING"), "", behind, gone},
@@ -266,7 +270,19 @@ std::vector<Case> DSFCases(bool strips)
 
 // clang-format on
 
-/// The form, as large as the header says, and the number behind it.
+std::vector<Case> allCases()
+{
+    std::vector<Case> all = strippedCases();
+    std::ranges::copy(DSFCases(true), std::back_inserter(all));
+    for (Case &test : all)
+        test.strips = true;
+    for (const auto &cases :
+         {casesOf(wav), casesOf(aiff), WAVCases(), DSDIFFCases(), DSFCases(false)})
+        std::ranges::copy(cases, std::back_inserter(all));
+    return all;
+}
+
+/// The form is as large as its header says.
 void expectWholeForm(const Case &test, const QByteArray &bytes)
 {
     const int junk = int(bytes.endsWith("JUNK")) * 4 + int(bytes.endsWith("TRAILING")) * 8;
@@ -274,37 +290,11 @@ void expectWholeForm(const Case &test, const QByteArray &bytes)
         EXPECT_EQ(bigEndianAt(bytes, 4, 8), bytes.size() - junk - 12);
     } else if (test.fileType == "dsf") {
         EXPECT_EQ(littleEndianAt(bytes, 12, 8), bytes.size() - junk);
+        EXPECT_EQ(littleEndianAt(bytes, 20, 8), test.strips ? 0 : tagStart);
     }
 }
 
-void run(const Case &test, bool strips)
-{
-    HRFTestFile file{test.fileType, test.bytes};
-    QByteArray reason;
-    if (const auto engine = file.tryOpen(true); !engine)
-        reason = engine.error().description.toUtf8();
-    else if (const auto done = strips ? file.tryStrip() : file.trySet({{K::album, u"New"_s}});
-             !done)
-        reason = done.error().recoverySuggestion.toUtf8();
-    EXPECT_EQ(reason, test.reason);
-    if (!reason.isEmpty()) {
-        EXPECT_EQ(file.bytes, test.bytes);
-        return;
-    }
-    for (const QByteArray &kept : test.kept)
-        EXPECT_TRUE(file.bytes.contains(kept)) << kept;
-    for (const QByteArray &gone : test.gone)
-        EXPECT_FALSE(file.bytes.contains(gone)) << gone;
-    EXPECT_EQ(file.bytes.count('\x96'), test.bytes.count('\x96'));
-    EXPECT_EQ(file.text(K::album), strips ? u""_s : u"New"_s);
-    expectWholeForm(test, file.bytes);
-}
-
-class Set : public testing::TestWithParam<Case>
-{
-};
-
-class Stripped : public testing::TestWithParam<Case>
+class IFFFiles : public testing::TestWithParam<Case>
 {
 };
 
@@ -325,23 +315,32 @@ NativeTexts nativeTitles(HRFTestFile &file)
 
 } // namespace
 
-TEST_P(Set, IsKeptWholeOrRefused)
+TEST_P(IFFFiles, AreKeptWholeOrRefused)
 {
-    run(GetParam(), false);
+    const Case &test = GetParam();
+    HRFTestFile file{test.fileType, test.bytes};
+    QByteArray reason;
+    if (const auto engine = file.tryOpen(true); !engine) {
+        reason = engine.error().description.toUtf8();
+    } else {
+        const auto done = test.strips ? file.tryStrip() : file.trySet({{K::album, u"New"_s}});
+        reason = done ? "" : done.error().recoverySuggestion.toUtf8();
+    }
+    EXPECT_EQ(reason, test.reason);
+    if (!reason.isEmpty()) {
+        EXPECT_EQ(file.bytes, test.bytes);
+        return;
+    }
+    for (const QByteArray &kept : test.kept)
+        EXPECT_TRUE(file.bytes.contains(kept)) << kept;
+    for (const QByteArray &gone : test.gone)
+        EXPECT_FALSE(file.bytes.contains(gone)) << gone;
+    EXPECT_EQ(file.bytes.count('\x96'), test.bytes.count('\x96'));
+    EXPECT_EQ(file.text(K::album), test.strips ? u""_s : u"New"_s);
+    expectWholeForm(test, file.bytes);
 }
 
-TEST_P(Stripped, IsKeptWholeOrRefused)
-{
-    run(GetParam(), true);
-}
-
-INSTANTIATE_TEST_SUITE_P(Chunks, Set, testing::ValuesIn(casesOf(wav)), nameOf);
-INSTANTIATE_TEST_SUITE_P(AIFF, Set, testing::ValuesIn(casesOf(aiff)), nameOf);
-INSTANTIATE_TEST_SUITE_P(WAV, Set, testing::ValuesIn(WAVCases()), nameOf);
-INSTANTIATE_TEST_SUITE_P(DSDIFF, Set, testing::ValuesIn(DSDIFFCases()), nameOf);
-INSTANTIATE_TEST_SUITE_P(DSF, Set, testing::ValuesIn(DSFCases(false)), nameOf);
-INSTANTIATE_TEST_SUITE_P(Chunks, Stripped, testing::ValuesIn(strippedCases()), nameOf);
-INSTANTIATE_TEST_SUITE_P(DSF, Stripped, testing::ValuesIn(DSFCases(true)), nameOf);
+INSTANTIATE_TEST_SUITE_P(Cases, IFFFiles, testing::ValuesIn(allCases()), nameOf);
 
 TEST(IFFRules, RefuseMoreThan4GiB)
 {

@@ -110,36 +110,36 @@ QByteArray fragmentIndex(char version, const QByteArray &numbers)
 
 TEST(MP4Check, RefusesWhatSavingWouldDamage)
 {
+    const auto movie = [](const QByteArray &contents) { return atom("moov", contents) + audio; };
+    const QByteArray otherList = meta(atom("ilst", {}), "mdta");
+    const QByteArray keys = meta(atom("keys", bigEndian(0, 8)) + atom("ilst", {}));
+    const QByteArray longItem = longAtom("\251nam", data(1, "One"));
+    const QByteArray openList = openAtom("udta", bigEndian(0) + list.sliced(4));
+    const QByteArray emptyTable = atom("stco", bigEndian(0) + bigEndian(9));
     const std::tuple<const char *, QByteArray, Outcome> cases[] = {
-        {"no user data", atom("moov", trak) + audio, saved},
-        {"no tags", atom("moov", trak + atom("udta", name)) + audio, saved},
-        {"tags", atom("moov", trak + atom("udta", list)) + audio, saved},
-        {"other handler", atom("moov", atom("udta", meta(atom("ilst", {}), "mdta"))), refused},
-        {"keys", atom("moov", atom("udta", meta(atom("keys", bigEndian(0, 8)) + atom("ilst", {})))),
-         refused},
-        {"keys of the movie",
-         atom("moov", meta(atom("ilst", {}), "mdta") + atom("udta", list)) + audio, saved},
+        {"no user data", movie(trak), saved},
+        {"no tags", movie(trak + atom("udta", name)), saved},
+        {"tags", movie(trak + atom("udta", list)), saved},
+        {"other handler", movie(atom("udta", otherList)), refused},
+        {"keys", movie(atom("udta", keys)), refused},
+        {"keys of the movie", movie(otherList + atom("udta", list)), saved},
 
         {"open movie", audio + openAtom("moov", trak + atom("udta", list)), refused},
         {"open movie without tags", audio + openAtom("moov", trak), refused},
         {"open user data", audio + openAtom("moov", openAtom("udta", list)), refused},
-        {"open tags", audio + openAtom("moov", openAtom("udta", bigEndian(0) + list.sliced(4))),
-         refused},
-        {"open audio", atom("moov", atom("udta", list)) + audio + openAtom("mdat", "more"), saved},
+        {"open tags", audio + openAtom("moov", openList), refused},
+        {"open audio", movie(atom("udta", list)) + openAtom("mdat", "more"), saved},
 
         {"long movie", longAtom("moov", trak) + audio, refused},
-        {"long user data", atom("moov", longAtom("udta", name)) + audio, refused},
+        {"long user data", movie(longAtom("udta", name)), refused},
         {"long movie with user data", longAtom("moov", atom("udta", name)) + audio, saved},
         {"long atoms with tags", longAtom("moov", longAtom("udta", list) + trak) + audio, saved},
-        {"long item", atom("moov", userData(longAtom("\251nam", data(1, "One")))) + audio, refused},
+        {"long item", movie(userData(longItem)), refused},
 
-        {"zero behind user data", atom("moov", atom("udta", name + bigEndian(0)) + trak), refused},
-        {"zero behind user data at the end",
-         atom("moov", trak + atom("udta", list + bigEndian(0))) + audio, refused},
-        {"item that runs past the tags",
-         atom("moov", userData(bigEndian(40) + "\251nam") + trak) + audio, refused},
-        {"offsets without room",
-         atom("moov", atom("trak", atom("stco", bigEndian(0) + bigEndian(9))) + trak), refused},
+        {"zero behind user data", movie(atom("udta", name + bigEndian(0)) + trak), refused},
+        {"zero at the end", movie(trak + atom("udta", list + bigEndian(0))), refused},
+        {"item past the tags", movie(userData(bigEndian(40) + "\251nam") + trak), refused},
+        {"offsets without room", movie(atom("trak", emptyTable) + trak), refused},
     };
     for (const auto &[name, contents, outcome] : cases)
         EXPECT_EQ(outcomeOfSaving(contents), outcome) << name;

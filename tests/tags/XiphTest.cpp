@@ -9,7 +9,6 @@
 
 using namespace HRFTestBytes;
 using namespace Qt::StringLiterals;
-using testing::HasSubstr;
 using K = HRFTagKey;
 
 namespace {
