@@ -99,7 +99,7 @@ QVariant sample(K key, int variant)
     case HRFPropertyType::Date:
         return QDateTime(QDate(2001, 2, 3 + variant), QTime(4, 5, 6), Qt::UTC);
     case HRFPropertyType::Number:
-        return qlonglong(key == K::year ? 1999 + variant : qlonglong(key) + variant);
+        return key == K::year ? 1999LL + variant : qlonglong(key) + variant;
     default:
         return true;
     }

@@ -49,8 +49,8 @@ protected:
 
 TEST_P(Damage, OfTruncatedFilesIsNotMadeWorse)
 {
-    constexpr int cuts = 60;
-    for (int i = 0; i < cuts; ++i) {
+    constexpr qsizetype cuts = 60;
+    for (qsizetype i = 0; i < cuts; ++i) {
         // Most of the structure is in front.
         const qsizetype length = i < cuts / 2 ? i * 8 : bytes.size() * (i - cuts / 2) * 2 / cuts;
         SCOPED_TRACE(length);
@@ -108,13 +108,15 @@ TEST(ExtremeValues, OfTextAreKeptOrRefused)
 {
     const QString texts[] = {QString(u"nul\0inside"_s), QString(QChar(u'\0')), u"end\0"_s,
                              QString(QChar(0xD800)) + u"lone surrogate"_s, u"\uFFFF\u0001"_s};
-    for (const char *fixture : oneOfEach)
-        for (const QString &text : texts)
+    for (const char *fixture : oneOfEach) {
+        for (const QString &text : texts) {
             for (const K key : {K::title, K::comment, K::lyrics, K::mood, K::genre}) {
                 SCOPED_TRACE(fixture + std::to_string(&text - texts));
                 HRFTestFile file = HRFTestFile::fixture(fixture);
                 expectKeptOrRefused(file, {{key, text}});
             }
+        }
+    }
 }
 
 TEST(ExtremeValues, OfInvalidUtf8AreSurvived)

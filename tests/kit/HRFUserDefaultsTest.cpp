@@ -196,6 +196,7 @@ TEST_F(HRFUserDefaultsTest, ServesSeveralThreads)
         }
     };
     std::vector<std::jthread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back(work, number);
     threads.clear();

@@ -204,8 +204,8 @@ TEST(ID3Keeping, LeavesForeignFramesByteForByte)
         {"APIC", "\1image/jpeg\0\5\xFF\xFEz\1\0\0\xFF\xD8\xFF bytes"_ba},
         {"APIC", "\0-->\0\7link\0http://a.b/c.png"_ba},
     };
-    for (const int from : {3, 4})
-        for (const int to : {3, 4})
+    for (const int from : {3, 4}) {
+        for (const int to : {3, 4}) {
             for (const Frame &frame : foreignFrames) {
                 const HRFSettings settings(settingsOf(to));
                 HRFTestFile file = tagged({frame, textFrame("TIT2", "a")}, from);
@@ -214,6 +214,8 @@ TEST(ID3Keeping, LeavesForeignFramesByteForByte)
                 EXPECT_EQ(contentsOf(file.bytes, frame.id), QByteArrayList{frame.content})
                     << frame.id << " from ID3v2." << from << " to ID3v2." << to;
             }
+        }
+    }
 }
 
 TEST(ID3Keeping, KeepsAFrameOrRefusesToSave)
@@ -246,12 +248,13 @@ TEST(ID3Keeping, RefusesToSaveADamagedTag)
         QByteArray(whole).replace(firstFrame + 6, 1, "\x7F"),
         ID3v2Tag(4, {textFrame("TIT2", "a"), {"XABC", "\x81 encrypted", "\0\x04"_ba}}),
     };
-    for (const QByteArray &tag : tags)
+    for (const QByteArray &tag : tags) {
         for (const QVariant &title : {QVariant(u"new"_s), QVariant()}) {
             HRFTestFile file{"mp3", tag + audio};
             EXPECT_FALSE(file.trySet({{K::title, title}})) << tag;
             EXPECT_EQ(file.bytes, tag + audio);
         }
+    }
 }
 
 TEST(ID3Keeping, KeepsEveryValueWhenTheVersionChanges)

@@ -130,10 +130,10 @@ QByteArray info(const QByteArray &fields)
     return wav.chunk("LIST", "INFO" + fields);
 }
 
-const QByteArray first = field("IART", "First\0"_ba);
-const QByteArray second = field("IART", "Second\0"_ba);
-const QByteArray title = field("INAM", "Title\0"_ba);
-const QByteArray twoLists = wav.file(info(first) + wav.sound() + info(second));
+const QByteArray artist1 = field("IART", "First\0"_ba);
+const QByteArray artist2 = field("IART", "Second\0"_ba);
+const QByteArray titleField = field("INAM", "Title\0"_ba);
+const QByteArray twoLists = wav.file(info(artist1) + wav.sound() + info(artist2));
 
 std::vector<Case> WAVCases()
 {
@@ -144,7 +144,7 @@ std::vector<Case> WAVCases()
     const char *const damaged = "Its INFO list is damaged; a part of it would be lost.";
     const QByteArray plain = wav.file(wav.sound()).sliced(4);
     const auto file = [](const QByteArray &fields) { return wav.file(wav.sound() + info(fields)); };
-    const QByteArray unpadded = "IART" + littleEndian(3) + "Art" + title;
+    const QByteArray unpadded = "IART" + littleEndian(3) + "Art" + titleField;
     return {
         {"wav", "RF64", "RF64" + plain, rf64},
         {"wav", "BW64", "BW64" + plain, rf64},
@@ -155,14 +155,14 @@ std::vector<Case> WAVCases()
         {"wav", "Latin1End", file(field("IART", "Caf\xE9\0"_ba)), "", {"Caf\xC3\xA9"}},
         {"wav", "Windows1252", file(field("IART", "\x80uro\0"_ba)), "", {"\xE2\x82\xACuro"}},
         {"wav", "BehindNUL", file(field("IART", "Art\0\xFF\xFF"_ba)), "", {"Art"}},
-        {"wav", "TwoLists", wav.file(info(first) + wav.sound() + info(title)), "",
+        {"wav", "TwoLists", wav.file(info(artist1) + wav.sound() + info(titleField)), "",
          {"First", "Title"}},
-        {"wav", "EqualFields", file(first + first), "", {"First"}},
-        {"wav", "TwoFields", file(first + second), twice},
+        {"wav", "EqualFields", file(artist1 + artist1), "", {"First"}},
+        {"wav", "TwoFields", file(artist1 + artist2), twice},
         {"wav", "TwoFieldsInTwoLists", twoLists, twice},
         {"wav", "Unpadded", file(unpadded), "", {"Art", "Title"}},
-        {"wav", "LongField", file(first + "INAM" + littleEndian(900) + "Title"), damaged},
-        {"wav", "ZerosInList", file(first + QByteArray(20, '\0')), "", {"First"}},
+        {"wav", "LongField", file(artist1 + "INAM" + littleEndian(900) + "Title"), damaged},
+        {"wav", "ZerosInList", file(artist1 + QByteArray(20, '\0')), "", {"First"}},
     };
 }
 
@@ -234,7 +234,7 @@ QByteArray dsf(qint64 fileSize, qint64 tagOffset, const QByteArray &tail = "",
                qint64 audioSize = 12 + 8192)
 {
     QByteArray format;
-    for (const quint64 number : {1, 0, 2, 2, 2822400, 1})
+    for (const unsigned int number : {1U, 0U, 2U, 2U, 2822400U, 1U})
         format += littleEndian(number);
     const auto number = [](qint64 value) { return littleEndian(quint64(value), 8); };
     return "DSD " + number(28) + number(fileSize) + number(tagOffset) + "fmt " + number(52) + format

@@ -28,10 +28,11 @@ const std::vector<std::pair<QByteArray, QByteArray>> itemsOfAPE = {
 HRFTestFile withTags(bool ID3v2, bool ID3v1, bool APE)
 {
     QByteArray bytes = audio;
-    if (ID3v2)
+    if (ID3v2) {
         bytes.prepend(ID3v2Tag(
             3,
             {textFrame("TPE1", "id3v2"), textFrame("TRCK", "2/20"), textFrame("TCOM", "id3v2")}));
+    }
     if (APE)
         bytes += APETag(itemsOfAPE);
     if (ID3v1)
@@ -98,12 +99,8 @@ TEST(MPEGTags, AllHoldAValue)
     EXPECT_EQ(file.bytes.at(file.bytes.size() - 2), 5);
     const auto engine = file.open();
     const auto &mpeg = dynamic_cast<const MPEGMetaData &>(*engine);
-    const std::pair<const char *, HRFText> rows[] = {
-        {"TRACK", u"5"_s},   {"TOTALTRACKS", u"12"_s}, {"ARTIST", u"artist"_s},
-        {"PODCAST", u"1"_s}, {"DISCNUMBER", {}},
-    };
-    for (const auto &[item, text] : rows)
-        EXPECT_EQ(mpeg.stringForAPETag(item), text) << item;
+    EXPECT_EQ(mpeg.stringForAPETag("ARTIST"), u"artist"_s);
+    EXPECT_EQ(mpeg.stringForAPETag("DISCNUMBER"), HRFText());
     EXPECT_EQ(mpeg.numberForAPEKey(K::trackTotal), 12);
     EXPECT_THROW(mpeg.stringForAPETag(nullptr), HRFAssertionFailure);
 }

@@ -132,12 +132,13 @@ TEST(VorbisComment, ReplacesOnlyTheFieldsThatChange)
         {{}, {{K::year, 1999}}, {"DATE=1999"}},
         {{"DATE=1999"}, {{K::year, 0}}, {}},
     };
-    for (const Container &container : containers)
+    for (const Container &container : containers) {
         for (const auto &[old, values, expected] : cases) {
             const QByteArray file = container.file(comment(old, "\1"));
             const QByteArray bytes = saved(container.fileType, file, values);
             EXPECT_TRUE(bytes.contains(container.prefix + comment(expected))) << bytes;
         }
+    }
 }
 
 TEST(VorbisComment, JoinsValuesAndShowsLatin1)
@@ -238,20 +239,21 @@ TEST(FLACSave, UsesThePadding)
     constexpr qsizetype needed = 4 + 9; // the length and the text of the new field
     const std::pair<qsizetype, qsizetype> cases[] = {
         {0, 4096}, {needed - 1, 4096}, {needed, 0}, {needed + 5, 5}, {100'000, 4096}};
-    for (const auto &[old, expected] : cases)
+    for (const auto &[old, expected] : cases) {
         EXPECT_EQ(saved("flac",
                         flacStart + flacBlock(4, comment({}))
                             + flacBlock(1, QByteArray(old, 'p'), true) + flacAudio),
                   flacStart + flacBlock(4, comment({"ALBUM=New"}))
                       + flacBlock(1, QByteArray(expected, '\0'), true) + flacAudio);
+    }
 }
 
 TEST(FLACSave, RefusesWhatABlockCannotHold)
 {
     constexpr qsizetype tooLarge = 1 << 24;
-    for (const Container &container : {flac, oggFlac})
+    for (const Container &container : {flac, oggFlac}) {
         for (const HRFTagValues &values : {HRFTagValues{{K::lyrics, QString(tooLarge, u'x')}},
-                                           HRFTagValues{{K::artwork, QByteArray(tooLarge, 'x')}}})
+                                           HRFTagValues{{K::artwork, QByteArray(tooLarge, 'x')}}}) {
             for (const int storage : {0, 1, 2}) {
                 const HRFSettings setting({{"preferredFLACArtworkStorageType", storage}});
                 const QByteArray old = container.file(comment({}));
@@ -259,6 +261,8 @@ TEST(FLACSave, RefusesWhatABlockCannotHold)
                 EXPECT_TRUE(HRFFailure(file.trySet(values)).contains(u"16 MiB"_s)) << storage;
                 EXPECT_EQ(file.bytes, old) << storage;
             }
+        }
+    }
 }
 
 TEST(FLACSave, StoresPicturesWhereTheUserWantsThem)
@@ -324,7 +328,7 @@ TEST(OggSave, RenumbersThePagesOfItsStreamOnly)
         {"second stream in between", {x, a, endX, end}, {1, 3, 2, 4}},
     };
     const QByteArray start = oggFile({head, tags});
-    for (const auto &[name, behind, sequences] : cases)
+    for (const auto &[name, behind, sequences] : cases) {
         for (const QByteArray &foreign : {""_ba, "JUNK"_ba}) {
             SCOPED_TRACE(name + foreign.toStdString());
             const QByteArray old = start + foreign + oggFile(behind);
@@ -338,6 +342,7 @@ TEST(OggSave, RenumbersThePagesOfItsStreamOnly)
             }
             EXPECT_TRUE(saved("opus", old).endsWith(foreign + oggFile(behind)));
         }
+    }
 }
 
 TEST(OggSave, KeepsThePacketsAroundTheComment)
@@ -355,7 +360,7 @@ TEST(OggSave, KeepsThePacketsAroundTheComment)
     EXPECT_EQ(pages[2], end);
 
     // 255 segments that the audio does not fit behind
-    pages = OggPages(saved("opus", file, {{K::lyrics, QString(254 * 255, u'x')}}));
+    pages = OggPages(saved("opus", file, {{K::lyrics, QString(qsizetype(254) * 255, u'x')}}));
     ASSERT_EQ(pages.size(), 4U);
     EXPECT_EQ(pages[1].granule, 0);
     EXPECT_EQ(pages[2].granule, 960);
