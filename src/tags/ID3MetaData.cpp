@@ -214,7 +214,8 @@ HRFResult<void> ID3MetaData::checkFile()
     ID3v2::Tag *tag = ID3V2Tag();
     if (!tag || tag->header()->tagSize() == 0)
         return {};
-    if (qint64(tag->header()->completeTagSize()) > stream().length())
+    // Within a chunk, TagLib takes the name of a following "ID3 " chunk for a second tag.
+    if (ID3V2TagOffset() >= 0 && qint64(tag->header()->completeTagSize()) > stream().length())
         return std::unexpected(reasonError(tr("Its ID3v2 tag is cut off")));
     if (tag->header()->extendedHeader() && tag->header()->majorVersion() == 3)
         readBehindExtendedHeader(*tag);
