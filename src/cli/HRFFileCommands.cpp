@@ -8,26 +8,28 @@
 #include "tags/HRFTagEngine.h"
 
 #include <functional>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What setting a tag would do to a file, or nothing when it holds the value already.
-QString describeChange(const HRFTagEngine &engine, const HRFTagChange &change)
+QString shownValue(const QVariant &value)
 {
-    const QVariant old = engine.valueForKey(change.key);
-    if (old == change.value || (HRFTagValue::isNothing(old) && !change.value.isValid()))
+    if (HRFTagValue::isNothing(value))
+        return u"nothing"_s;
+    if (value.typeId() == QMetaType::QByteArray)
+        return u"%1 bytes"_s.arg(value.toByteArray().size());
+    return u"“%1”"_s.arg(HRFConsole::printable(HRFValueText(value)));
+}
+
+/// What the engine holds now and then, which need not be what is set: ratings have a largest value.
+QString describeChange(HRFTagKey key, const QVariant &before, const QVariant &after)
+{
+    if (before == after || (HRFTagValue::isNothing(before) && HRFTagValue::isNothing(after)))
         return {};
-    const auto shown = [&](const QVariant &value) {
-        if (HRFTagValue::isNothing(value))
-            return u"nothing"_s;
-        if (value.typeId() == QMetaType::QByteArray)
-            return u"%1 bytes"_s.arg(value.toByteArray().size());
-        return u"“%1”"_s.arg(HRFConsole::printable(HRFValueText(value)));
-    };
-    return u"  %1: %2 -> %3\n"_s.arg(HRFTagProperties::propertyNames().at(qsizetype(change.key)),
-                                     shown(old), shown(change.value));
+    return u"  %1: %2 -> %3\n"_s.arg(HRFTagProperties::propertyNames().at(qsizetype(key)),
+                                     shownValue(before), shownValue(after));
 }
 
 /// The text of a dry run about one file.
@@ -69,16 +71,18 @@ int HRFSetTags(const HRFCommandOptions &options)
         return HRFExitStatus::wrongUsage;
     }
     return forEachEngine(run, false, [&](HRFTagEngine &engine) -> HRFResult<void> {
-        if (options.isDryRun) {
-            QString described;
-            for (const HRFTagChange &change : *changes)
-                described += describeChange(engine, change);
-            run.console().print(describe(engine, described));
-            return {};
-        }
-        for (const HRFTagChange &change : *changes)
+        std::map<HRFTagKey, QVariant> before;
+        for (const HRFTagChange &change : *changes) {
+            before.try_emplace(change.key, engine.valueForKey(change.key));
             engine.setValueForKey(change.value, change.key);
-        return engine.updateFileWithError();
+        }
+        if (!options.isDryRun)
+            return engine.updateFileWithError();
+        QString described;
+        for (const auto &[key, value] : before)
+            described += describeChange(key, value, engine.valueForKey(key));
+        run.console().print(describe(engine, described));
+        return engine.checkChanges();
     });
 }
 
@@ -87,9 +91,9 @@ int HRFStripTags(const HRFCommandOptions &options)
     HRFFileRun run(options);
     return forEachEngine(run, false, [&](HRFTagEngine &engine) -> HRFResult<void> {
         if (options.isDryRun) {
-            const QString version = engine.tagVersion().value_or(QString());
+            const QString tags = engine.strippableTags();
             run.console().print(
-                describe(engine, version.isEmpty() ? QString() : u"  removes %1\n"_s.arg(version)));
+                describe(engine, tags.isEmpty() ? QString() : u"  removes %1\n"_s.arg(tags)));
             return {};
         }
         if (auto stripped = engine.stripTags(); !stripped)

@@ -65,7 +65,7 @@ HRFFileRun::Outcome HRFFileRun::runOne(const HRFFileReference &file, const Work 
         const HRFErrorAnswer answer = answerTo(result.error());
         if (answer == HRFErrorAnswer::Cancel)
             return Outcome::Cancelled;
-        const bool canFix = answer == HRFErrorAnswer::Fix && result.error().isPermissionError();
+        const bool canFix = answer == HRFErrorAnswer::Fix && isFixable(result.error());
         if (!canFix || std::exchange(wasFixed, true))
             return Outcome::Failed;
         if (!fixPermissions(file)) {
@@ -76,11 +76,16 @@ HRFFileRun::Outcome HRFFileRun::runOne(const HRFFileReference &file, const Work 
     }
 }
 
+bool HRFFileRun::isFixable(const HRFError &error) const
+{
+    return error.isPermissionError() && !m_options.isDryRun;
+}
+
 HRFErrorAnswer HRFFileRun::answerTo(const HRFError &error)
 {
     if (m_onError != HRFErrorAnswer::Ask)
         return m_onError;
-    const bool canFix = error.isPermissionError();
+    const bool canFix = isFixable(error);
     while (!HRFInterruption::isRequested()) {
         const QString answer = m_console.ask(canFix ? u"[f]ix permissions, [c]ontinue or [q]uit? "_s
                                                     : u"[c]ontinue or [q]uit? "_s);

@@ -25,6 +25,7 @@ private:
     enum class Outcome { Done, Failed, Cancelled };
 
     Outcome runOne(const HRFFileReference &file, const Work &work);
+    bool isFixable(const HRFError &error) const;
     HRFErrorAnswer answerTo(const HRFError &error);
 
     const HRFCommandOptions &m_options;

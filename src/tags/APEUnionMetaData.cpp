@@ -49,16 +49,25 @@ void APEUnionMetaData::removeValueForAPETag(const char *tagName)
         tag->removeItem(String(tagName));
 }
 
+HRFText APEUnionMetaData::secondStringForKey(HRFTagKey key) const
+{
+    return isAPEText(key) ? stringForAPEKey(key) : HRFText();
+}
+
+void APEUnionMetaData::setSecondStringForKey(const HRFText &value, HRFTagKey key)
+{
+    if (isAPEText(key))
+        setStringForAPEKey(value, key);
+}
+
 QVariant APEUnionMetaData::secondValueForKey(HRFTagKey key) const
 {
-    return isAPEText(key) ? valueFromText(stringForAPEKey(key), HRFRowForKey(key).type)
-                          : QVariant();
+    return valueFromText(secondStringForKey(key), HRFRowForKey(key).type);
 }
 
 void APEUnionMetaData::setSecondValueForKey(const QVariant &value, HRFTagKey key)
 {
-    if (isAPEText(key))
-        setStringForAPEKey(textFromValue(value, HRFRowForKey(key).type), key);
+    setSecondStringForKey(textFromValue(value, HRFRowForKey(key).type), key);
 }
 
 QString APEUnionMetaData::secondTagVersion() const

@@ -31,6 +31,8 @@ public:
         setStringForAPEKey(stringForNumber(value), key);
     }
 
+    HRFText secondStringForKey(HRFTagKey key) const;
+    void setSecondStringForKey(const HRFText &value, HRFTagKey key);
     QVariant secondValueForKey(HRFTagKey key) const;
     void setSecondValueForKey(const QVariant &value, HRFTagKey key);
     QString secondTagVersion() const;

@@ -93,6 +93,12 @@ QString DSDIFFMetaData::secondTagVersion() const
     return tagFile()->hasDIINTag() ? u"DIIN"_s : QString();
 }
 
+QString DSDIFFMetaData::strippableTags() const
+{
+    const Lock guard = lock();
+    return ID3FileMetaData::readValue(HRFTagKey::tagVersion).toString();
+}
+
 QVariant DSDIFFMetaData::readValue(HRFTagKey key) const
 {
     return key == HRFTagKey::format ? u"DSD (IFF)"_s : HRFTagUnion::readValue(key);

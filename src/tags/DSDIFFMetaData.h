@@ -24,6 +24,8 @@ public:
     QVariant secondValueForKey(HRFTagKey key) const;
     void setSecondValueForKey(const QVariant &value, HRFTagKey key);
     QString secondTagVersion() const;
+    /// Not the DIIN chunks: they describe the recording, too.
+    QString strippableTags() const override;
     HRFResult<void> checkFile() override;
 
 protected:

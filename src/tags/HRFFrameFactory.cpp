@@ -2,10 +2,13 @@
 
 #include "tags/ID3FrameHeader.h"
 #include "tags/ID3FrameRepair.h"
+#include "tags/ID3Genres.h"
+#include "tags/ID3KeptFrame.h"
 
 #include <QCoreApplication>
 #include <taglib/id3v2synchdata.h>
 #include <taglib/id3v2tag.h>
+#include <taglib/textidentificationframe.h>
 #include <taglib/urllinkframe.h>
 
 #include <algorithm>
@@ -34,6 +37,11 @@ struct Renaming
 constexpr Renaming renamings[] = {
     {"TDA", "TDAT"}, {"TIM", "TIME"}, {"TSI", "TSIZ"}, {"RVA", "RVAD"}, {"EQU", "EQUA"},
 };
+
+unsigned int headerSize(unsigned int version)
+{
+    return version < 3 ? 6 : ID3FrameHeader::length;
+}
 
 /// There are ID3v2.3 tags with the three-letter identifiers of ID3v2.2 in the field.
 bool hasVersion2Identifier(const ByteVector &data, unsigned int version)
@@ -121,6 +129,7 @@ ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
         m_unparsed = data;
         return nullptr;
     }
+    frame = keepWhole(frame, readable, *tagHeader);
     // The parser goes on behind as many bytes as the frame says it has.
     if (repaired)
         frame->header()->setFrameSize(ID3v2::Frame::Header(data, version).frameSize());
@@ -130,6 +139,36 @@ ID3v2::Frame *HRFFrameFactory::createFrame(const ByteVector &data,
         m_obstacle = tr("Its ID3v2.2 tag has frames that later versions lack.");
     frame->header()->setTagAlterPreservation(false);
     return frame;
+}
+
+/// Replaces what TagLib has made of a frame when it would not be saved whole.
+ID3v2::Frame *HRFFrameFactory::keepWhole(ID3v2::Frame *frame, const ByteVector &data,
+                                         const ID3v2::Header &tagHeader) const
+{
+    const unsigned int version = tagHeader.majorVersion();
+    const std::string_view id(data.data(), hasVersion2Identifier(data, version) ? 3 : 4);
+    if (id == "TCON" || id == "TCO") {
+        const QByteArrayView content(data.data(), qsizetype(frame->size()) + headerSize(version));
+        auto *genres = dynamic_cast<ID3v2::TextIdentificationFrame *>(frame);
+        if (genres && content.contains('('))
+            ID3RestoreGenres(*genres, textsOfGenreFrame(data, tagHeader));
+        return frame;
+    }
+    const bool isCoded = version > 3 && tagHeader.unsynchronisation();
+    if (isCoded || !isPlainFrame(data, version) || !ID3KeptFrame::isMeantFor(id))
+        return frame;
+    const std::unique_ptr<ID3v2::Frame> understood(frame);
+    return new ID3KeptFrame(*understood, data, version);
+}
+
+/// TagLib leaves the texts of other frames alone.
+StringList HRFFrameFactory::textsOfGenreFrame(ByteVector data, const ID3v2::Header &tagHeader) const
+{
+    const bool isShort = hasVersion2Identifier(data, tagHeader.majorVersion());
+    std::ranges::copy(std::string_view(isShort ? "TT1" : "TIT1"), data.begin());
+    const std::unique_ptr<ID3v2::Frame> frame(FrameFactory::createFrame(data, &tagHeader));
+    const auto *texts = dynamic_cast<ID3v2::TextIdentificationFrame *>(frame.get());
+    return texts ? texts->fieldList() : StringList();
 }
 
 void HRFFrameFactory::completeTag(ID3v2::Tag &tag) const
@@ -154,10 +193,9 @@ void HRFFrameFactory::parseBehindExtendedHeader(ID3v2::Tag &tag, const ByteVecto
 void HRFFrameFactory::parseFrames(ID3v2::Tag &tag, ByteVector rest) const
 {
     const unsigned int version = tag.header()->majorVersion();
-    const unsigned int headerSize = ID3v2::Frame::Header(ByteVector(), version).size();
-    while (rest.size() > headerSize && rest[0] != '\0') {
+    while (rest.size() > headerSize(version) && rest[0] != '\0') {
         if (beginsWithEmptyFrame(rest, version)) {
-            rest = rest.mid(headerSize);
+            rest = rest.mid(headerSize(version));
             continue;
         }
         std::unique_ptr<ID3v2::Frame> frame(createFrame(rest, tag.header()));
@@ -165,7 +203,7 @@ void HRFFrameFactory::parseFrames(ID3v2::Tag &tag, ByteVector rest) const
             m_obstacle = tr("Its ID3v2 tag is damaged; a part of it would be lost.");
             return;
         }
-        rest = rest.mid(headerSize + ID3v2::Frame::Header(rest, version).frameSize());
+        rest = rest.mid(headerSize(version) + ID3v2::Frame::Header(rest, version).frameSize());
         tag.addFrame(frame.release());
     }
 }

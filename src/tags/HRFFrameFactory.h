@@ -5,6 +5,7 @@
 #include <QString>
 #include <taglib/id3v2framefactory.h>
 #include <taglib/tbytevector.h>
+#include <taglib/tstringlist.h>
 
 namespace TagLib::ID3v2 {
 class Tag;
@@ -34,6 +35,10 @@ public:
     void setObstacle(const QString &obstacle) const { m_obstacle = obstacle; }
 
 private:
+    TagLib::ID3v2::Frame *keepWhole(TagLib::ID3v2::Frame *frame, const TagLib::ByteVector &data,
+                                    const TagLib::ID3v2::Header &tagHeader) const;
+    TagLib::StringList textsOfGenreFrame(TagLib::ByteVector data,
+                                         const TagLib::ID3v2::Header &tagHeader) const;
     void parseFrames(TagLib::ID3v2::Tag &tag, TagLib::ByteVector rest) const;
 
     mutable ID3FrameCheck m_check;

@@ -158,6 +158,8 @@ HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
     offset += start;
     bytes = bytes.sliced(start);
     old = old.sliced(start);
+    if (old == bytes)
+        return {};
     if (old.size() == bytes.size()) {
         const qsizetype end = equalEnd(bytes, old);
         bytes.chop(end);

@@ -213,11 +213,17 @@ bool HRFTagEngine::canUpdateFile() const
     return !stream().readOnly();
 }
 
+QString HRFTagEngine::strippableTags() const
+{
+    const QString tags = tagVersion().value_or(QString());
+    return tags.isEmpty() && artwork() ? tr("artwork") : tags;
+}
+
 HRFResult<void> HRFTagEngine::updateFileWithError()
 {
     const Lock guard = lock();
-    if (!canUpdateFile())
-        return std::unexpected(saveError(HRFError::fromErrno(EACCES)));
+    if (auto checked = checkChanges(); !checked)
+        return checked;
     const HRFResult<void> updated = updateFile();
     if (updated)
         return {};
@@ -244,14 +250,24 @@ HRFError HRFTagEngine::saveError(const HRFError &cause) const
     return error;
 }
 
+HRFResult<void> HRFTagEngine::checkChanges() const
+{
+    const Lock guard = lock();
+    if (!canUpdateFile())
+        return std::unexpected(saveError(HRFError::fromErrno(EACCES)));
+    for (const auto &[key, value] : m_changes) {
+        const QVariant held = readValue(key);
+        if (hasContent(value) ? !holds(held, value, key) : hasContent(held))
+            return std::unexpected(saveError(notKeptError(key)));
+    }
+    return {};
+}
+
 HRFResult<void> HRFTagEngine::updateFile()
 {
     std::map<HRFTagKey, QVariant> values;
-    for (const auto &[key, value] : m_changes) {
-        const QVariant held = values[key] = readValue(key);
-        if (hasContent(value) ? !holds(held, value, key) : hasContent(held))
-            return std::unexpected(notKeptError(key));
-    }
+    for (const auto &[key, value] : m_changes)
+        values[key] = readValue(key);
     if (std::exchange(m_isSpoilt, true))
         return std::unexpected(reasonError(tr("Saving it has failed before.")));
     if (auto saved = saveTags(); !saved)

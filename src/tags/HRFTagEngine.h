@@ -58,6 +58,11 @@ public:
 
     /// Whether the file can be written.
     bool canUpdateFile() const;
+    /// The errors that updateFileWithError tells without touching the file: that it cannot be
+    /// written, or cannot hold the values that were set.
+    [[nodiscard]] HRFResult<void> checkChanges() const;
+    /// What stripTags would remove, for people; empty when there is nothing.
+    virtual QString strippableTags() const;
     /// Saves the tags into the file. When that fails, the file is as it was. The values that were
     /// set are read back from what is about to be written; one that is not there is a failure.
     ///

@@ -9,7 +9,9 @@
 ///
 /// @tparam Self the engine class itself. It offers secondValueForKey(key) and
 ///         setSecondValueForKey(value, key) for its second tag, both of which ignore keys that the
-///         tag has no field for, and secondTagVersion(), empty when the file has no such tag.
+///         tag has no field for, and secondTagVersion(), empty when the file has no such tag. When
+///         the second tag holds texts, it offers secondStringForKey(key) and
+///         setSecondStringForKey(value, key), too.
 /// @tparam First the engine class of the first tag.
 template <class Self, class First> class HRFTagUnion : public First
 {
@@ -20,14 +22,24 @@ public:
         HRFText text = First::stringForKey(key);
         if (text && !text->isEmpty())
             return text;
-        return HRFTagProperties::textFromValue(self().Self::secondValueForKey(key),
-                                               HRFRowForKey(key).type);
+        return self().Self::secondStringForKey(key);
     }
 
     void setStringForKey(const HRFText &value, HRFTagKey key) override
     {
         const auto guard = this->lock();
         First::setStringForKey(value, key);
+        self().Self::setSecondStringForKey(value, key);
+    }
+
+    HRFText secondStringForKey(HRFTagKey key) const
+    {
+        return HRFTagProperties::textFromValue(self().Self::secondValueForKey(key),
+                                               HRFRowForKey(key).type);
+    }
+
+    void setSecondStringForKey(const HRFText &value, HRFTagKey key)
+    {
         self().Self::setSecondValueForKey(
             HRFTagProperties::valueFromText(value, HRFRowForKey(key).type), key);
     }

@@ -2,7 +2,7 @@
 
 #include "tags/ID3FrameHeader.h"
 
-#include <QStringDecoder>
+#include <QByteArrayView>
 #include <taglib/id3v2frame.h>
 #include <taglib/id3v2synchdata.h>
 
@@ -72,9 +72,7 @@ bool isTextWithLanguage(std::string_view id)
 
 bool isValidUTF8(const ByteVector &text)
 {
-    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-    const QString decoded = decoder(QByteArrayView(text.data(), qsizetype(text.size())));
-    return !decoder.hasError() && !decoded.contains(QChar::ReplacementCharacter);
+    return QByteArrayView(text.data(), qsizetype(text.size())).isValidUtf8();
 }
 
 /// Whether nothing needs to be done, told for the most common texts without making copies.

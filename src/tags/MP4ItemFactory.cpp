@@ -52,11 +52,13 @@ MP4::Item textItem(const MP4::AtomDataList &values)
     return texts.isEmpty() ? MP4::Item() : MP4::Item(texts);
 }
 
-/// The number takes as many bytes as its writer chose.
+/// The number takes as many bytes as its writer chose; some writers make a text of it.
 MP4::Item numberItem(const MP4::AtomDataList &values)
 {
     if (values.isEmpty())
         return {};
+    if (dataType(values.front()) == MP4::TypeUTF8)
+        return textItem(values);
     const ByteVector &bytes = values.front().data;
     if (bytes.size() == 8)
         return {bytes.toLongLong()};

@@ -191,8 +191,12 @@ HRFResult<void> MPEGMetaData::stripTags()
     openTagFile(readsProperties);
     if (!canUpdateFile())
         return std::unexpected(HRFError::fromErrno(EACCES));
-    if (!m_tagFile->strip(MPEG::File::AllTags))
-        return std::unexpected(HRFError::fromErrno(EIO));
+    // Behind a tag there may be another one.
+    for (offset_t length = -1; length != stream().length(); openTagFile(false)) {
+        length = stream().length();
+        if (!m_tagFile->strip(MPEG::File::AllTags))
+            return std::unexpected(HRFError::fromErrno(EIO));
+    }
     const HRFResult<void> committed = stream().commit();
     startAnew();
     openTagFile(readsProperties);

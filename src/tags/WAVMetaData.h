@@ -40,6 +40,11 @@ public:
         setStringForINFOKey(stringForNumber(value), key);
     }
 
+    HRFText secondStringForKey(HRFTagKey key) const { return stringForINFOKey(key); }
+    void setSecondStringForKey(const HRFText &value, HRFTagKey key)
+    {
+        setStringForINFOKey(value, key);
+    }
     QVariant secondValueForKey(HRFTagKey key) const;
     void setSecondValueForKey(const QVariant &value, HRFTagKey key);
     QString secondTagVersion() const;
