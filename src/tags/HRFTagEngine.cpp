@@ -216,7 +216,8 @@ bool HRFTagEngine::canUpdateFile() const
 QString HRFTagEngine::strippableTags() const
 {
     const QString tags = tagVersion().value_or(QString());
-    return tags.isEmpty() && artwork() ? tr("artwork") : tags;
+    const bool hasArtwork = !artwork().value_or(QByteArray()).isEmpty();
+    return tags.isEmpty() && hasArtwork ? tr("artwork") : tags;
 }
 
 HRFResult<void> HRFTagEngine::updateFileWithError()
