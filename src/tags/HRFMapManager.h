@@ -45,5 +45,5 @@ private:
 
     QHash<QString, QString> m_frameDescriptions;
     std::atomic<const HRFFrameTable *> m_ID3Frames;
-    HRFFrameTable m_ID3FramesV2_4Diffs;
+    HRFFrameTable m_ID3FramesV2_4Diffs{};
 };
