@@ -148,10 +148,10 @@ ID3v2::Frame *HRFFrameFactory::keepWhole(ID3v2::Frame *frame, const ByteVector &
     const unsigned int version = tagHeader.majorVersion();
     const std::string_view id(data.data(), hasVersion2Identifier(data, version) ? 3 : 4);
     if (id == "TCON" || id == "TCO") {
-        const QByteArrayView content(data.data(), qsizetype(frame->size()) + headerSize(version));
+        const ByteVector whole = data.mid(0, headerSize(version) + frame->size());
         auto *genres = dynamic_cast<ID3v2::TextIdentificationFrame *>(frame);
-        if (genres && content.contains('('))
-            ID3RestoreGenres(*genres, textsOfGenreFrame(data, tagHeader));
+        if (genres && whole.find('(') >= 0)
+            ID3RestoreGenres(*genres, textsOfGenreFrame(whole, tagHeader));
         return frame;
     }
     const bool isCoded = version > 3 && tagHeader.unsynchronisation();
