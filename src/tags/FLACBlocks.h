@@ -29,7 +29,7 @@ inline constexpr qsizetype FLACBlockHeaderLength = 4;
 /// One metadata block: data that stands in the file, or new data.
 struct FLACBlock
 {
-    char type;
+    char type = 0;
     qint64 offset = 0; ///< of the data in the file; not used for new data
     qint64 length = 0; ///< of the data
     std::optional<QByteArray> newData{};
