@@ -6,7 +6,10 @@ function(lirra_compile_options target)
     target_compile_definitions(
         ${target}
         PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
-                QT_NO_URL_CAST_FROM_STRING)
+                QT_NO_URL_CAST_FROM_STRING
+                # Qt 6.4 is the oldest that will do: what later ones deprecate is still used. The
+                # first name is that of Qt 6.4, the second that of later versions.
+                QT_DEPRECATED_WARNINGS_SINCE=0x060400 QT_WARN_DEPRECATED_UP_TO=0x060400)
     target_compile_options(
         ${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
                           -fno-omit-frame-pointer)

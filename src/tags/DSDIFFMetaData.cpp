@@ -44,11 +44,13 @@ ByteVector contentsOfText(const String &text)
     return ByteVector::fromUInt(characters.size()) + characters;
 }
 
-/// TagLib goes round in circles when the sizes of inner chunks are wrong.
+/// TagLib goes round in circles when the sizes of chunks are wrong.
 bool hasSoundChunks(HRFTagStream &stream)
 {
-    const auto chunks = IFFReadChunks(stream, DSDIFFLayout).chunks;
-    return std::ranges::all_of(chunks, [&stream](const IFFChunk &chunk) {
+    const IFFChunkList list = IFFReadChunks(stream, DSDIFFLayout);
+    if (list.isCutOff)
+        return false;
+    return std::ranges::all_of(list.chunks, [&stream](const IFFChunk &chunk) {
         // The frame information, which TagLib looks for, comes first (DSDIFF 1.5).
         if (chunk.name == "DST ")
             return IFFReadBytes(stream, chunk.offset, 4) == "FRTE";
@@ -63,8 +65,11 @@ const HRFEngineClass DSDIFFMetaData::metadataClass{
     "DSDIFFMetaData", fileTypes, QT_TRANSLATE_NOOP("HRFTagEngine", "DSDIFF audio"),
     &HRFMakeEngine<DSDIFFMetaData>};
 
+/// TagLib takes any bytes for a chunked file.
 HRFResult<void> DSDIFFMetaData::checkBeforeOpening(HRFTagStream &stream)
 {
+    if (!IFFHasHeader(stream, DSDIFFLayout, "FRM8", "DSD "))
+        return std::unexpected(contentsError(metadataClass));
     if (!hasSoundChunks(stream))
         return std::unexpected(reasonError(tr("Its chunks are damaged")));
     return {};
@@ -104,11 +109,8 @@ QVariant DSDIFFMetaData::readValue(HRFTagKey key) const
     return key == HRFTagKey::format ? u"DSD (IFF)"_s : HRFTagUnion::readValue(key);
 }
 
-/// TagLib takes any bytes for a chunked file.
 HRFResult<void> DSDIFFMetaData::checkFile()
 {
-    if (!IFFHasHeader(stream(), DSDIFFLayout, "FRM8", "DSD "))
-        return std::unexpected(contentsError());
     if (auto checked = HRFTagUnion::checkFile(); !checked)
         return checked;
     const std::vector<DSDIFFChunk> chunks = DSDIFFID3Chunks(stream());

@@ -202,9 +202,9 @@ HRFResult<void> HRFTagEngine::checkFile()
     return std::unexpected(contentsError());
 }
 
-HRFError HRFTagEngine::contentsError() const
+HRFError HRFTagEngine::contentsError(const HRFEngineClass &engineClass)
 {
-    return reasonError(tr("It does not contain %1").arg(tr(engineClass().contents)));
+    return reasonError(tr("It does not contain %1").arg(tr(engineClass.contents)));
 }
 
 bool HRFTagEngine::canUpdateFile() const

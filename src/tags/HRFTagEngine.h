@@ -114,7 +114,8 @@ protected:
     /// To be called by an engine that opens the file anew: whatever happened before is forgotten.
     void startAnew();
     /// The error of a file that is not of the engine's format.
-    HRFError contentsError() const;
+    HRFError contentsError() const { return contentsError(engineClass()); }
+    static HRFError contentsError(const HRFEngineClass &engineClass);
     /// An error that only says why.
     static HRFError reasonError(const QString &reason);
 

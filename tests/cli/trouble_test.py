@@ -36,10 +36,10 @@ class FullDiskTest(ProgramTest):
         set_title = ["set", "-t", "title=new"]
         for data, arguments, limits in (
                 (audio(), set_title, [0, 1, len(audio()) - 1, len(audio()), len(audio()) + 20]),
-                (tagged, ["set", "--artwork", cover], [0, 1000, len(tagged), len(tagged) + 500]),
+                (tagged, ["set", "--artwork", cover], [0, 600, len(tagged), len(tagged) + 500]),
                 # The new tag at the front still fits, the one at the end does not.
-                (with_both, set_title, [0, 2000, len(tagged)]),
-                (with_both, ["strip"], [0, 300, 2000, len(audio()) - 1])):
+                (with_both, set_title, [0, 600, len(tagged)]),
+                (with_both, ["strip"], [0, 300, len(audio()) - 1])):
             for limit in limits:
                 with self.subTest(arguments=arguments, limit=limit):
                     path = self.file(data=data)

@@ -1,6 +1,5 @@
 // What every format must do alike. A format is a row; what differs by rule is a column.
 
-#include "formats/HRFSoundBytes.h"
 #include "support/HRFTestFile.h"
 
 #include <taglib/fileref.h>
@@ -15,17 +14,16 @@ struct Format
 {
     const char *name;
     const char *fixture;
-    HRFContainer container;
+    QByteArray soundMark; ///< where the last part of the sound begins
     QString format;
     QString tagVersion; ///< once it has a tag
     int bitDepth = 0; ///< 0: none is reported
     int channels = 1; ///< as the file states; AAC in MP4 states 2 whatever the sound is
     HRFSettings::Values settings = {};
 
-    bool isID3() const { return tagVersion.startsWith(u"ID3"_s); }
     bool isOnlyAPE() const { return tagVersion == u"APE"_s; } ///< which holds no pictures
     /// Stripping empties the ID3v2 tag only.
-    bool keepsDIIN() const { return container == HRFContainer::DSDIFF; }
+    bool keepsDIIN() const { return tagVersion.endsWith(u"DIIN"_s); }
 };
 
 void PrintTo(const Format &format, std::ostream *out)
@@ -33,7 +31,14 @@ void PrintTo(const Format &format, std::ostream *out)
     *out << format.fixture;
 }
 
-using enum HRFContainer;
+const QByteArray MPEG = "\xFF\xFB";
+const QByteArray MP4 = "mdat";
+const QByteArray FLAC = "\xFF\xF8";
+const QByteArray Ogg = "OggS";
+const QByteArray RIFF = "data";
+const QByteArray AIFF = "SSND";
+const QByteArray DSF = "data";
+const QByteArray DSDIFF = "DSD ";
 const QString layer3 = u"MPEG-1 layer 3"_s;
 const QString v23 = u"ID3v2.3"_s;
 const QString v24 = u"ID3v2.4"_s;
@@ -75,12 +80,17 @@ const Format formats[] = {
     {"OggSpeex", "speex.spx", Ogg, u"OGG Speex"_s, xiph},
     {"WAV", "plain.wav", RIFF, u"WAVE"_s, info, 16},
     {"WAVBroadcast", "bext.wav", RIFF, u"WAVE"_s, info, 16},
+    {"WAVTo23", "plain.wav", RIFF, u"WAVE"_s, u"ID3v2.3, INFO"_s, 16, 1, {{"ID3v2Version", 316}}},
+    {"WAVOnlyID3", "id3-info.wav", RIFF, u"WAVE"_s, v24, 16, 1, {{"RIFF.INFO", false}}},
     {"WAVINFO", "info.wav", RIFF, u"WAVE"_s, info, 16},
     {"WAVID3INFO", "id3-info.wav", RIFF, u"WAVE"_s, info, 16},
     {"AIFF", "plain.aiff", AIFF, u"AIFF"_s, v24, 16},
+    {"AIFFNotTo23", "plain.aiff", AIFF, u"AIFF"_s, v24, 16, 1, {{"ID3v2Version", 316}}},
     {"AIFFC", "sowt.aifc", AIFF, u"AIFF-C"_s, v24, 16},
     {"DSF", "dsf-channels2.dsf", DSF, u"DSD (SF)"_s, v24, 1, 2},
+    {"DSFNotTo23", "dsf-channels2.dsf", DSF, u"DSD (SF)"_s, v24, 1, 2, {{"ID3v2Version", 316}}},
     {"DSDIFF", "plain.dff", DSDIFF, u"DSD (IFF)"_s, diin, 1, 2},
+    {"DSDIFFNotTo23", "plain.dff", DSDIFF, u"DSD (IFF)"_s, diin, 1, 2, {{"ID3v2Version", 316}}},
     {"DSDIFFDIIN", "diin.dff", DSDIFF, u"DSD (IFF)"_s, diin, 1, 2},
     {"DSDIFFID3", "id3.dff", DSDIFF, u"DSD (IFF)"_s, diin, 1, 2},
     {"DSDIFFID3DIIN", "id3-diin.dff", DSDIFF, u"DSD (IFF)"_s, diin, 1, 2},
@@ -105,22 +115,6 @@ QVariant sample(K key, int variant)
     }
 }
 
-QVariant zeroOf(K key)
-{
-    switch (HRFRowForKey(key).type) {
-    case HRFPropertyType::Data:
-        return QByteArray();
-    case HRFPropertyType::Number:
-        return qlonglong(0);
-    case HRFPropertyType::Boolean:
-        return false;
-    case HRFPropertyType::Date:
-        return QVariant();
-    default:
-        return u""_s;
-    }
-}
-
 /// A text may read as empty where there is none.
 QVariant normalized(const QVariant &value)
 {
@@ -136,13 +130,15 @@ protected:
             if (K(i) != K::artwork || !GetParam().isOnlyAPE())
                 keys.push_back(K(i));
     }
-    /// Whatever a test did, the sound is as it was.
-    void TearDown() override { EXPECT_TRUE(soundOf(file) == m_sound); }
-
-    static QByteArray soundOf(const HRFTestFile &file)
+    /// Whatever a test did, the sound is as it was. Pages of Ogg files may have new headers.
+    void TearDown() override
     {
-        return HRFSoundBytes(file.bytes, GetParam().container);
+        const QByteArray &mark = GetParam().soundMark;
+        const QByteArray old = HRFTestFile::fixture(GetParam().fixture).bytes;
+        const QByteArray sound = old.sliced(old.lastIndexOf(mark) + (mark == Ogg ? 27 : 0), 100);
+        EXPECT_EQ(file.bytes.count(sound), old.count(sound));
     }
+
     HRFTagValues allSamples(int variant) const
     {
         HRFTagValues values;
@@ -167,9 +163,6 @@ protected:
     const HRFSettings settings{GetParam().settings};
     std::vector<K> keys;
     HRFTestFile file = HRFTestFile::fixture(GetParam().fixture);
-
-private:
-    const QByteArray m_sound = soundOf(file);
 };
 
 } // namespace
@@ -185,7 +178,7 @@ TEST_P(Conformance, TellsTheProperties)
     EXPECT_EQ(engine->isDRMProtected(), false);
     EXPECT_GT(engine->sampleRate().value_or(0), 0);
     EXPECT_TRUE(engine->bitRate() && engine->duration());
-    if (expected.container == DSF)
+    if (expected.format == u"DSD (SF)"_s)
         return; // TagLib reads the properties of a DSF file in any case
     for (const K key : {K::bitRate, K::sampleRate, K::channels, K::duration, K::bitDepth})
         EXPECT_EQ(file.value(key), QVariant()) << HRFRowForKey(key).name;
@@ -194,7 +187,8 @@ TEST_P(Conformance, TellsTheProperties)
 TEST_P(Conformance, WritesChangesAndRemovesEveryTag)
 {
     for (const K key : keys) {
-        for (const QVariant &nothing : {QVariant(), QVariant::fromValue(nullptr), zeroOf(key)}) {
+        for (const QVariant &nothing :
+             {QVariant(), QVariant::fromValue(nullptr), QVariant(sample(key, 0).metaType())}) {
             file.set(key, sample(key, 0));
             expectValues({{key, sample(key, 0)}});
             file.set(key, sample(key, 1));
@@ -203,19 +197,6 @@ TEST_P(Conformance, WritesChangesAndRemovesEveryTag)
             expectValues({{key, QVariant()}});
         }
     }
-}
-
-TEST_P(Conformance, HoldsAllTagsAtOnce)
-{
-    HRFTagValues values = allSamples(0);
-    file.set(values);
-    expectValues(values);
-    EXPECT_EQ(file.text(K::tagVersion), GetParam().tagVersion);
-    for (std::size_t i = 0; i < values.size(); i += 5) {
-        values[i].second = sample(values[i].first, 1);
-        file.set({values[i]});
-    }
-    expectValues(values);
 }
 
 TEST_P(Conformance, SetsPairsInBothOrders)
@@ -255,6 +236,21 @@ TEST_P(Conformance, KeepsTextsAsTheyAre)
     }
 }
 
+TEST_P(Conformance, KeepsOddTextsOrRefusesThem)
+{
+    const QString texts[] = {QString(u"nul\0inside"_s), QString(QChar(u'\0')), u"end\0"_s,
+                             QString(QChar(0xD800)) + u"lone surrogate"_s, u"\uFFFF\u0001"_s};
+    for (const QString &text : texts) {
+        for (const K key : {K::title, K::comment, K::lyrics, K::mood, K::genre}) {
+            const QByteArray old = file.bytes;
+            if (file.trySet({{key, text}}))
+                EXPECT_EQ(file.text(key), text) << HRFRowForKey(key).name;
+            else
+                EXPECT_TRUE(file.bytes == old) << HRFRowForKey(key).name;
+        }
+    }
+}
+
 TEST_P(Conformance, HoldsAnyPicture)
 {
     if (GetParam().isOnlyAPE())
@@ -262,36 +258,7 @@ TEST_P(Conformance, HoldsAnyPicture)
     for (const QByteArray &picture : {HRFSampleJPEG, HRFSamplePNG, HRFSampleGIF, "other"_ba}) {
         file.set(K::artwork, picture);
         expectValues({{K::artwork, picture}});
-        const auto pictures = HRFNative<TagLib::FileRef>(file)->complexProperties("PICTURE");
-        ASSERT_EQ(pictures.size(), 1U);
-        const TagLib::String type = pictures.front().value("mimeType").toString();
-        EXPECT_TRUE(picture != HRFSampleJPEG || type == "image/jpeg");
-        EXPECT_TRUE(picture != HRFSamplePNG || type == "image/png");
     }
-}
-
-TEST_P(Conformance, ReplacesTheFirstOfSeveralPictures)
-{
-    if (!isWritableByTagLib())
-        return;
-    TagLib::List<TagLib::VariantMap> pictures;
-    for (const char *data : {"first", "second", "third"}) {
-        TagLib::VariantMap picture;
-        picture["data"] = TagLib::ByteVector(data);
-        picture["mimeType"] = TagLib::String("image/png");
-        pictures.append(picture);
-    }
-    {
-        HRFNative<TagLib::FileRef> native(file);
-        native->setComplexProperties("PICTURE", pictures);
-        native.save();
-    }
-    expectValues({{K::artwork, "first"_ba}});
-    file.set(K::artwork, HRFSamplePNG);
-    expectValues({{K::artwork, HRFSamplePNG}});
-    const auto kept = HRFNative<TagLib::FileRef>(file)->complexProperties("PICTURE");
-    EXPECT_EQ(kept.size(), GetParam().isID3() ? 3U : 1U);
-    EXPECT_EQ(kept.back().value("data").toByteVector() == "third", GetParam().isID3());
 }
 
 TEST_P(Conformance, LeavesForeignFieldsAlone)
@@ -322,6 +289,8 @@ TEST_P(Conformance, StripsEveryTag)
     const bool hadTag = version != file.value(K::tagVersion) || untouched.startsWith("ID3");
     EXPECT_EQ(file.bytes != untouched, hadTag);
     file.set(allSamples(0));
+    expectValues(allSamples(0));
+    EXPECT_EQ(file.text(K::tagVersion), GetParam().tagVersion);
     file.strip();
     const auto engine = file.open(true);
     for (const K key : keys) {
@@ -347,3 +316,29 @@ TEST_P(Conformance, WritesNothingWithoutAChange)
 
 INSTANTIATE_TEST_SUITE_P(Formats, Conformance, testing::ValuesIn(formats),
                          [](const auto &row) { return std::string(row.param.name); });
+
+TEST(WrongContents, AreNamedAsTheReason)
+{
+    const struct
+    {
+        const char *fixture, *fileType;
+        QString reason;
+    } cases[] = {{"adts.aac", "aac", u"an MP4 container"_s},
+                 {"README.md", "mp3", u"MPEG audio or a tag"_s},
+                 {"opus.opus", "ogg", u"an Ogg Vorbis or Ogg FLAC stream"_s},
+                 {"vorbis.ogg", "opus", u"an Opus stream"_s},
+                 {"vorbis.ogg", "spx", u"a Speex stream with a tag"_s},
+                 {"flac.oga", "flac", u"a FLAC stream"_s},
+                 {"plain.wav", "aiff", u"AIFF audio"_s},
+                 {"plain.aiff", "wav", u"WAVE audio"_s},
+                 {"plain.dff", "dsf", u"DSF audio"_s},
+                 {"plain.aiff", "dff", u"DSDIFF audio"_s}};
+    for (const auto &[fixture, fileType, reason] : cases) {
+        HRFTestFile file = HRFTestFile::fixture(fixture, fileType);
+        for (const QByteArray &contents :
+             {file.bytes, QByteArray(), "no sound "_ba.repeated(500)}) {
+            file.bytes = contents;
+            EXPECT_EQ(HRFFailure(file.tryOpen()), u"It does not contain "_s + reason) << fileType;
+        }
+    }
+}

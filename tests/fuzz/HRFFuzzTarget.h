@@ -6,7 +6,8 @@
 #include <QString>
 
 /// The engine class that a family of inputs is for, by the family's name ("mpeg", "mp4", "flac",
-/// "opus", "wav", "vorbis", "dsf", "dsdiff", "aiff" or "speex"); nullptr for any other name.
+/// "opus", "wav", "vorbis", "dsf", "dsdiff", "aiff" or "speex") or by an extension of its files;
+/// nullptr for any other name.
 const HRFEngineClass *HRFFuzzEngineClass(const QByteArray &family);
 
 /// Reads, tags, saves, reads again and strips a file with the given contents, which need not be

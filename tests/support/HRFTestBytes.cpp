@@ -75,24 +75,6 @@ QByteArray ID3v2Tag(int version, const std::vector<Frame> &frames, char revision
         + body;
 }
 
-QByteArray ID3v1Tag(const QByteArray &title, const QByteArray &artist, char track)
-{
-    return "TAG" + title.leftJustified(30, '\0', true) + artist.leftJustified(30, '\0', true)
-        + "v1 album"_ba.leftJustified(30, '\0') + "1971" + "v1 comment"_ba.leftJustified(29, '\0')
-        + track + '\x11';
-}
-
-QByteArray APETag(const std::vector<std::pair<QByteArray, QByteArray>> &items)
-{
-    QByteArray body;
-    for (const auto &[key, value] : items)
-        body += littleEndian(quint64(value.size())) + littleEndian(0) + key + '\0' + value;
-    const QByteArray common = "APETAGEX" + littleEndian(2000)
-        + littleEndian(quint64(body.size() + 32)) + littleEndian(items.size());
-    return common + littleEndian(0xA0000000) + littleEndian(0, 8) + body + common
-        + littleEndian(0x80000000) + littleEndian(0, 8);
-}
-
 int ID3v2Version(const QByteArray &bytes)
 {
     return bytes.startsWith("ID3") ? bytes.at(3) : 0;
@@ -122,18 +104,6 @@ QByteArrayList contentsOf(const QByteArray &bytes, const QByteArray &id)
         if (frame.id == id)
             contents.append(frame.content);
     return contents;
-}
-
-QByteArray MPEGAudio(const char *header, int frameCount)
-{
-    constexpr int frameSize = 144 * 128000 / 44100;
-    QByteArray audio;
-    for (int i = 0; i < frameCount; ++i) {
-        audio += QByteArray(header, 4);
-        for (int j = 4; j < frameSize; ++j)
-            audio += char((i * 7 + j) % 251);
-    }
-    return audio;
 }
 
 QByteArray OggPage::render() const

@@ -27,8 +27,6 @@ struct Frame
 /// A text frame in Latin-1.
 Frame textFrame(const QByteArray &id, const QByteArray &text);
 QByteArray ID3v2Tag(int version, const std::vector<Frame> &frames, char revision = 0);
-QByteArray ID3v1Tag(const QByteArray &title, const QByteArray &artist, char track = 0);
-QByteArray APETag(const std::vector<std::pair<QByteArray, QByteArray>> &items);
 
 /// The major version of the ID3v2 tag that the bytes begin with; 0 without one.
 int ID3v2Version(const QByteArray &bytes);
@@ -38,9 +36,6 @@ qint64 ID3v2Size(const QByteArray &bytes);
 std::vector<Frame> ID3v2Frames(const QByteArray &bytes);
 /// The contents of those with the identifier.
 QByteArrayList contentsOf(const QByteArray &bytes, const QByteArray &id);
-
-/// MPEG-1 layer 3 audio; the contents differ from frame to frame.
-QByteArray MPEGAudio(const char *header = "\xFF\xFB\x90\x64", int frameCount = 20);
 
 struct OggPage
 {

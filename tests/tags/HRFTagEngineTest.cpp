@@ -7,7 +7,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+#include <functional>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +30,7 @@ protected:
         return reference(name);
     }
 
-    const QByteArray m_audio = HRFTestBytes::MPEGAudio();
+    const QByteArray m_audio = HRFTestFile::fixture("plain.mp3").bytes;
     QTemporaryDir m_folder;
 };
 
@@ -73,21 +76,41 @@ TEST_F(HRFTagEngineTest, TellsWhyThereIsNoEngine)
     }
 }
 
-TEST_F(HRFTagEngineTest, TellsWhyASaveFailed)
+TEST_F(HRFTagEngineTest, RefusesToSaveAFileThatAnotherProgramChanged)
 {
-    const HRFFileReference file = write(u"song.mp3"_s, m_audio);
-    const auto engine = HRFTagEngine::initWithURL(file).value();
-    engine->setTitle(u"new"_s);
-    write(u"song.mp3"_s, m_audio + "of another program");
-    const auto updated = engine->updateFileWithError();
-    ASSERT_FALSE(updated);
-    const HRFError &error = updated.error();
-    EXPECT_EQ(error.domain, QString::fromLatin1(HRFLirraErrorDomain));
-    EXPECT_EQ(error.code, HRFLirraErrorCode::saveFailed);
-    EXPECT_EQ(error.path, file.displayPath());
-    EXPECT_EQ(error.description, u"Lirra failed to save the file “song.mp3”"_s);
-    ASSERT_TRUE(error.underlying);
-    EXPECT_EQ(error.underlying->domain, QString::fromLatin1(HRFPOSIXErrorDomain));
-    EXPECT_EQ(error.underlying->code, EBUSY);
-    EXPECT_EQ(error.recoverySuggestion, error.underlying->description);
+    const HRFFileReference file = reference(u"song.mp3"_s);
+    const char *path = file.nativePath().constData();
+    const QByteArray other = m_audio + "of another program";
+    const std::pair<QByteArray, std::function<void()>> rows[] = {
+        {other, [&] { write(u"song.mp3"_s, other); }},
+        {m_audio,
+         [&] {
+             const timespec times[] = {{1000000000, 0}, {1000000000, 0}};
+             ::utimensat(AT_FDCWD, path, times, 0);
+         }},
+        {m_audio,
+         [&] {
+             ::unlink(path);
+             write(u"song.mp3"_s, m_audio);
+         }},
+    };
+    for (const auto &[bytes, change] : rows) {
+        write(u"song.mp3"_s, m_audio);
+        const auto engine = HRFTagEngine::initWithURL(file).value();
+        engine->setTitle(u"new"_s);
+        change();
+        const auto updated = engine->updateFileWithError();
+        ASSERT_FALSE(updated);
+        const HRFError &error = updated.error();
+        EXPECT_EQ(error.domain, QString::fromLatin1(HRFLirraErrorDomain));
+        EXPECT_EQ(error.code, HRFLirraErrorCode::saveFailed);
+        EXPECT_EQ(error.path, file.displayPath());
+        EXPECT_EQ(error.description, u"Lirra failed to save the file “song.mp3”"_s);
+        ASSERT_TRUE(error.underlying);
+        EXPECT_EQ(error.underlying->domain, QString::fromLatin1(HRFPOSIXErrorDomain));
+        EXPECT_EQ(error.underlying->code, EBUSY);
+        EXPECT_EQ(error.recoverySuggestion, error.underlying->description);
+        QFile present(m_folder.filePath(u"song.mp3"_s));
+        EXPECT_TRUE(present.open(QIODevice::ReadOnly) && present.readAll() == bytes);
+    }
 }

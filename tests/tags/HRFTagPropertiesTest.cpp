@@ -1,6 +1,8 @@
 #include "tags/HRFTagProperties.h"
 
 #include "kit/HRFAssert.h"
+#include "tags/HRFFrameRows.h"
+#include "tags/HRFMapManager.h"
 
 #include <gtest/gtest.h>
 
@@ -88,7 +90,7 @@ TEST(HRFTagProperties, ReadsDatesAndTheirNearMisses)
         EXPECT_EQ(HRFTagProperties::dateForString(text), date) << qPrintable(text.value_or(u""_s));
 }
 
-TEST(HRFTagProperties, NamesTheFieldsInTheirOrder)
+TEST(HRFTagProperties, NamesAndDescribesTheFields)
 {
     const QStringList &names = HRFTagProperties::propertyNames();
     ASSERT_EQ(names.size(), 77);
@@ -97,6 +99,10 @@ TEST(HRFTagProperties, NamesTheFieldsInTheirOrder)
                                        {64, u"frames"_s},
                                        {77, u"tagVersion"_s}})
         EXPECT_EQ(names[number - 1], name);
+    for (const HRFFrameRow &row : HRFFrameRows) {
+        const QString name = row.key == K::date ? u"date"_s : names.at(qsizetype(row.key));
+        EXPECT_FALSE(HRFMapManager::frameDescriptions().value(name).isEmpty()) << qPrintable(name);
+    }
     EXPECT_EQ(HRFTagKeyForName("trackTotal"), K::trackTotal);
     EXPECT_FALSE(HRFTagKeyForName("date"));
 }

@@ -105,7 +105,11 @@ TEST(VorbisComment, KeepsEntriesAsTheyAre)
             const QByteArray old = comment({"TITLE=One", entry, "ARTIST=Last"}, "\1rest");
             const QByteArray expected =
                 comment({"TITLE=One", entry, "ARTIST=Last", "ALBUM=New"}, "\1rest");
-            EXPECT_TRUE(saved(type, container.file(old)).contains(expected)) << type << entry;
+            HRFTestFile file{type, container.file(old)};
+            const bool hasLatin1 = entry.startsWith("ARTIST");
+            EXPECT_EQ(file.text(K::artist), hasLatin1 ? u"Björk Last"_s : u"Last"_s);
+            file.set(newAlbum);
+            EXPECT_TRUE(file.bytes.contains(expected)) << type << entry;
         }
         const QByteArray uncounted = comment({"TITLE=One", "ARTIST=Keep"}, "\1", 1);
         EXPECT_TRUE(saved(type, container.file(uncounted)).contains("ARTIST=Keep")) << type;
@@ -141,19 +145,6 @@ TEST(VorbisComment, ReplacesOnlyTheFieldsThatChange)
     }
 }
 
-TEST(VorbisComment, JoinsValuesAndShowsLatin1)
-{
-    for (const Container &container : containers) {
-        const QByteArrayList entries = {"ARTIST=Bj\xF6rk", "TITLE=\xC3\xB6", "COMPOSER=A",
-                                        "COMPOSER=B"};
-        HRFTestFile file{container.fileType, container.file(comment(entries, "\1"))};
-        const auto engine = file.open();
-        EXPECT_EQ(engine->artist(), u"Björk"_s);
-        EXPECT_EQ(engine->title(), u"ö"_s);
-        EXPECT_EQ(engine->composer(), u"A B"_s);
-    }
-}
-
 TEST(VorbisComment, IsNotWrittenWhenItIsDamaged)
 {
     const QByteArray whole = comment({"TITLE=One", "ARTIST=Keep"});
@@ -183,20 +174,16 @@ TEST(VorbisComment, IsStrippedOfEverythingButForeignData)
     {
         const Container &container;
         QByteArray rest;
-        QByteArray expected;
+        QByteArray kept;
     } cases[] = {{opus, "\1binary", "\1binary"}, {opus, "\0binary"_ba, ""},
                  {vorbis, "\1junk", "\1"},       {flac, "\1junk", ""},
                  {oggFlac, "\1junk", ""},        {speex, "\1junk", ""}};
-    for (const auto &[container, rest, expected] : cases) {
+    for (const auto &[container, rest, kept] : cases) {
         HRFTestFile file{container.fileType, container.file(comment({"TITLE=One"}, rest))};
         file.strip();
-        const QByteArray stripped = comment({}, expected);
-        const QByteArray wanted = &container == &flac ? flacBlock(4, stripped)
-            : &container == &oggFlac                  ? flacBlock(4, stripped, true)
-                                                      : container.prefix + stripped;
-        EXPECT_TRUE(&container == &flac ? file.bytes.contains(wanted)
-                                        : OggPages(file.bytes).at(1).packets.front() == wanted)
-            << container.fileType;
+        const QByteArray stripped = container.prefix + comment({}, kept);
+        EXPECT_TRUE(file.bytes.contains(stripped)) << container.fileType;
+        EXPECT_EQ(file.bytes.contains(stripped + rest.sliced(kept.size())), kept == rest);
     }
 }
 
@@ -212,7 +199,7 @@ TEST(FLACSave, KeepsOtherBlocksAndID3Tags)
     const auto id3v2 = [](int version) {
         return ID3v2Tag(version, {textFrame("TYER", "1999"), {"XYZW", "raw", "\x80\0"_ba}});
     };
-    const QByteArray id3v1 = ID3v1Tag("x", "x");
+    const QByteArray id3v1 = HRFTestFile::fixture("id3v1.mp3").bytes.last(128);
     const struct
     {
         QByteArray blocks, expected, before, behind;
