@@ -101,7 +101,7 @@ QString DSDIFFMetaData::secondTagVersion() const
 QString DSDIFFMetaData::strippableTags() const
 {
     const Lock guard = lock();
-    return ID3FileMetaData::readValue(HRFTagKey::tagVersion).toString();
+    return firstValueForKey(HRFTagKey::tagVersion).toString();
 }
 
 QVariant DSDIFFMetaData::readValue(HRFTagKey key) const

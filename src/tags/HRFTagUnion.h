@@ -47,9 +47,11 @@ public:
 protected:
     using First::First;
 
+    QVariant firstValueForKey(HRFTagKey key) const { return First::readValue(key); }
+
     QVariant readValue(HRFTagKey key) const override
     {
-        const QVariant value = First::readValue(key);
+        const QVariant value = firstValueForKey(key);
         if (key == HRFTagKey::tagVersion)
             return joinedVersions(value.toString(), self().Self::secondTagVersion());
         return HRFTagValue::isNothing(value) ? self().Self::secondValueForKey(key) : value;
