@@ -149,7 +149,12 @@ QString applySettings(const HRFCommandOptions &options)
 
 int HRFRunCommandLine(int argc, char **argv)
 {
+    // Later versions of Qt say at every start when the locale is not UTF-8. Names are taken as
+    // bytes and output is UTF-8 in any case.
+    const QtMessageHandler handler =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { });
     const QCoreApplication application(argc, argv);
+    qInstallMessageHandler(handler);
     HRFCommandOptions options;
     Command chosen = nullptr;
     CLI::App app("Shows and edits the tags of audio files.", "lirra-cli");
