@@ -155,7 +155,8 @@ ID3v2::Frame *HRFFrameFactory::keepWhole(ID3v2::Frame *frame, const ByteVector &
         return frame;
     }
     const bool isCoded = version > 3 && tagHeader.unsynchronisation();
-    if (isCoded || !isPlainFrame(data, version) || !ID3KeptFrame::isMeantFor(id))
+    if (isCoded || hasVersion2Identifier(data, version) || !isPlainFrame(data, version)
+        || !ID3KeptFrame::isMeantFor(id))
         return frame;
     const std::unique_ptr<ID3v2::Frame> understood(frame);
     return new ID3KeptFrame(*understood, data, version);

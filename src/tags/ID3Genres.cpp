@@ -39,9 +39,6 @@ void ID3RestoreGenres(ID3v2::TextIdentificationFrame &frame, const StringList &t
     for (String text : texts) {
         genres.append(takeReferences(text));
         hasLost = hasLost || text.startsWith("(");
-        // Two parentheses stand for one.
-        if (text.startsWith("(("))
-            text = text.substr(1);
         if (!text.isEmpty())
             genres.append(text);
     }

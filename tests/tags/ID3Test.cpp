@@ -302,7 +302,9 @@ TEST(ID3Keeping, KeepsTheWordsOfText)
     const std::tuple<QByteArray, K, QString> rows[] = {
         {ID3v2Tag(3, {textFrame("TCON", "(Neo) Soul")}), K::genre, u"(Neo) Soul"_s},
         {ID3v2Tag(4, {textFrame("TCON", "(17)(Neo) Soul")}), K::genre, u"Rock / (Neo) Soul"_s},
-        {ID3v2Tag(3, {textFrame("TCON", "((escaped)")}), K::genre, u"(escaped)"_s},
+        {ID3v2Tag(3, {textFrame("TCON", "((escaped)")}), K::genre, u"((escaped)"_s},
+        {ID3v2Tag(3, {{"COM\0"_ba, "\0eng\0short identifier"_ba}}), K::comment,
+         u"short identifier"_s},
         {ID3v2Tag(3, {textFrame("TCON", "(17)")}), K::genre, u"Rock"_s},
         {ID3v2Tag(4, {{"TIT2", "\3Caf\xC3\xA9 \xEF\xBF\xBD"}}), K::title, u"Café \uFFFD"_s},
         {plainSize, K::title, longText.chopped(1) + u"Ã"_s},
