@@ -73,7 +73,8 @@ int HRFSetTags(const HRFCommandOptions &options)
     return forEachEngine(run, false, [&](HRFTagEngine &engine) -> HRFResult<void> {
         std::map<HRFTagKey, QVariant> before;
         for (const HRFTagChange &change : *changes) {
-            before.try_emplace(change.key, engine.valueForKey(change.key));
+            if (options.isDryRun)
+                before.try_emplace(change.key, engine.valueForKey(change.key));
             engine.setValueForKey(change.value, change.key);
         }
         if (!options.isDryRun)

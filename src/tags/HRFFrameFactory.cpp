@@ -156,7 +156,7 @@ ID3v2::Frame *HRFFrameFactory::keepWhole(ID3v2::Frame *frame, const ByteVector &
     }
     const bool isCoded = version > 3 && tagHeader.unsynchronisation();
     if (isCoded || hasVersion2Identifier(data, version) || !isPlainFrame(data, version)
-        || !ID3KeptFrame::isMeantFor(id))
+        || !ID3KeptFrame::isMeantFor(id, data.at(headerSize(version))))
         return frame;
     const std::unique_ptr<ID3v2::Frame> understood(frame);
     return new ID3KeptFrame(*understood, data, version);

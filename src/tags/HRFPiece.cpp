@@ -165,8 +165,6 @@ HRFResult<void> PieceWriter::overwriteUndoably(const Placed &placed)
         bytes.chop(end);
         old.chop(end);
     }
-    if (bytes.isEmpty())
-        return {};
     restoreOnFailure(offset, old.toByteArray());
     return m_store.writeAt(offset, {bytes.data(), std::size_t(bytes.size())});
 }

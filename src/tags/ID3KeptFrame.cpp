@@ -14,10 +14,17 @@ constexpr std::string_view otherFrames[] = {
     "MVNM", "MVIN", "GRP1", "IPLS", "CHAP", "CTOC",
 };
 
+/// Those that TagLib knows and that begin with a text encoding.
+constexpr std::string_view encodedFrames[] = {"GEOB", "SYLT", "OWNE"};
+constexpr char largestEncodingOfVersion3 = 1;
+
 } // namespace
 
-bool ID3KeptFrame::isMeantFor(std::string_view frameID)
+bool ID3KeptFrame::isMeantFor(std::string_view frameID, char firstByte)
 {
+    if (firstByte > largestEncodingOfVersion3
+        && std::ranges::find(encodedFrames, frameID) != std::end(encodedFrames))
+        return false;
     return !frameID.starts_with('T')
         && std::ranges::find(otherFrames, frameID) == std::end(otherFrames);
 }

@@ -11,7 +11,9 @@ class ID3KeptFrame final : public TagLib::ID3v2::Frame
 {
 public:
     /// Whether frames with the identifier are of this kind.
-    static bool isMeantFor(std::string_view frameID);
+    ///
+    /// @param firstByte of the content: a text encoding that ID3v2.3 lacks must not be kept
+    static bool isMeantFor(std::string_view frameID, char firstByte);
 
     /// @param frame what TagLib has made of the frame
     /// @param data bytes that begin with the frame, without format flags (ID3v2.4.0 structure

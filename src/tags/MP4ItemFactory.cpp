@@ -52,14 +52,19 @@ MP4::Item textItem(const MP4::AtomDataList &values)
     return texts.isEmpty() ? MP4::Item() : MP4::Item(texts);
 }
 
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
 /// The number takes as many bytes as its writer chose; some writers make a text of it.
 MP4::Item numberItem(const MP4::AtomDataList &values)
 {
     if (values.isEmpty())
         return {};
-    if (dataType(values.front()) == MP4::TypeUTF8)
-        return textItem(values);
     const ByteVector &bytes = values.front().data;
+    if (dataType(values.front()) == MP4::TypeUTF8 && std::ranges::all_of(bytes, isDigit))
+        return textItem(values);
     if (bytes.size() == 8)
         return {bytes.toLongLong()};
     if (bytes.isEmpty() || bytes.size() > 4)

@@ -151,6 +151,9 @@ bool MPEGMetaData::mayCreateTag(int type) const
 
 HRFResult<void> MPEGMetaData::saveTags()
 {
+    const bool hasTag = ID3V2TagOffset() == 0 || m_tagFile->hasID3v1Tag() || m_tagFile->hasAPETag();
+    if (!hasTag && m_tagFile->tag()->isEmpty())
+        return {};
     if (auto prepared = prepareSaving(preferredID3v2Version()); !prepared)
         return prepared;
     const auto version = preferredID3v2Version() == 3 ? ID3v2::v3 : ID3v2::v4;
@@ -191,11 +194,16 @@ HRFResult<void> MPEGMetaData::stripTags()
     openTagFile(readsProperties);
     if (!canUpdateFile())
         return std::unexpected(HRFError::fromErrno(EACCES));
-    // Behind a tag there may be another one.
-    for (offset_t length = -1; length != stream().length(); openTagFile(false)) {
+    // Behind a tag there may be another one; but within the audio, TagLib may take any three bytes
+    // for the beginning of one.
+    offset_t length = -1;
+    for (int types = MPEG::File::AllTags; length != stream().length();) {
         length = stream().length();
-        if (!m_tagFile->strip(MPEG::File::AllTags))
+        if (!m_tagFile->strip(types))
             return std::unexpected(HRFError::fromErrno(EIO));
+        openTagFile(false);
+        types =
+            MPEG::File::ID3v1 | MPEG::File::APE | (ID3V2TagOffset() == 0 ? MPEG::File::ID3v2 : 0);
     }
     const HRFResult<void> committed = stream().commit();
     startAnew();

@@ -143,3 +143,12 @@ TEST(MPEGFile, KeepsItsSoundWhenAnEngineSavesAgainAfterAFailure)
     EXPECT_FALSE(file.tryStrip());
     EXPECT_EQ(file.bytes, old);
 }
+
+TEST(MPEGTags, AreNotLookedForWithinTheSoundWhenStripping)
+{
+    const QByteArray sound =
+        QByteArray(500, 'x') + "ID3\4\0\0\0\0\1\0"_ba + QByteArray(500, 'y') + audio;
+    HRFTestFile file{"mp3", tagID3v2 + tagID3v2 + sound};
+    file.strip();
+    EXPECT_EQ(file.bytes, sound);
+}
