@@ -1,0 +1,7 @@
+#include "kit/HRFApplication.h"
+
+HRFApplication &HRFApplication::shared()
+{
+    static HRFApplication theApplication;
+    return theApplication;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <functional>
+
+/// Work off the main thread that mostly waits: for a queue, for an answer of the user.
+namespace HRFBackground {
+
+/// Runs a block on some other thread; a failure that it throws is logged.
+void run(std::function<void()> block);
+
+/// Waits until every block is done. On the main thread blocks for it are served meanwhile.
+void waitUntilIdle();
+
+} // namespace HRFBackground

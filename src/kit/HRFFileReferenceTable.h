@@ -1,0 +1,27 @@
+#pragma once
+
+#include "kit/HRFFileReference.h"
+
+#include <QString>
+
+#include <optional>
+
+/// Files by identity: a reference URL names a file by device and inode
+/// ("file:///.file/id=DEVICE.INODE", decimal), whatever it is called.
+///
+/// The table remembers the last known path of every reference that it made. All members may be
+/// called from any thread.
+namespace HRFFileReferenceTable {
+
+/// The reference URL of an existing file; nothing when it cannot be examined. Hard links of one
+/// file have one reference.
+std::optional<QString> referenceURLForFile(const HRFFileReference &file);
+
+/// The present path of the file with a reference URL: the last known path when that still is the
+/// file, else another name of it in the same folder, else nothing. A path URL gives its path.
+std::optional<HRFFileReference> fileForURL(const QString &url);
+
+/// To be told when this program has moved a file.
+void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
+
+} // namespace HRFFileReferenceTable

@@ -1,0 +1,153 @@
+#include "kit/HRFMainThread.h"
+
+#include "kit/HRFAssert.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLoggingCategory>
+
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <mutex>
+#include <semaphore>
+#include <thread>
+
+namespace HRFMainThread {
+
+namespace {
+
+// Static objects are made by the thread that runs main().
+const std::thread::id mainThread = std::this_thread::get_id();
+
+struct Inbox
+{
+    std::mutex mutex; ///< guards the members below
+    std::condition_variable changed;
+    std::deque<std::function<void()>> blocks;
+    bool wasWokenUp = false;
+};
+
+Inbox &inbox()
+{
+    static Inbox theInbox;
+    return theInbox;
+}
+
+void runBlocks()
+{
+    Inbox &box = inbox();
+    std::unique_lock lock(box.mutex);
+    while (!box.blocks.empty()) {
+        const std::function<void()> block = std::move(box.blocks.front());
+        box.blocks.pop_front();
+        lock.unlock();
+        block();
+        lock.lock();
+    }
+}
+
+const QEvent::Type blocksWaiting = QEvent::Type(QEvent::registerEventType());
+
+/// Runs the blocks when the event loop comes round.
+class Receiver : public QObject
+{
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() != blocksWaiting)
+            return QObject::event(event);
+        runBlocks();
+        return true;
+    }
+};
+
+/// Lives on the main thread, wherever it is first asked for.
+Receiver &receiver()
+{
+    static Receiver *const theReceiver = [] {
+        auto *made = new Receiver; // outlives every thread that may post to it
+        if (QCoreApplication::instance())
+            made->moveToThread(QCoreApplication::instance()->thread());
+        return made;
+    }();
+    return *theReceiver;
+}
+
+void post(std::function<void()> block)
+{
+    Inbox &box = inbox();
+    {
+        const std::lock_guard lock(box.mutex);
+        box.blocks.push_back(std::move(block));
+    }
+    box.changed.notify_all();
+    if (QCoreApplication::instance())
+        QCoreApplication::postEvent(&receiver(), new QEvent(blocksWaiting));
+}
+
+} // namespace
+
+bool isCurrent()
+{
+    return std::this_thread::get_id() == mainThread;
+}
+
+void runLoggingFailures(const std::function<void()> &block)
+{
+    try {
+        block();
+    } catch (const std::exception &failure) {
+        qCritical("%s", failure.what());
+    }
+}
+
+void run(std::function<void()> block, Wait wait)
+{
+    if (wait == Wait::No)
+        return post([block = std::move(block)] { runLoggingFailures(block); });
+    if (isCurrent())
+        return block();
+    std::exception_ptr failure;
+    std::binary_semaphore done(0);
+    post([&] {
+        try {
+            block();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        done.release();
+    });
+    done.acquire();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void serveUntil(const std::function<bool()> &condition)
+{
+    HRFRequire(isCurrent(), "HRFMainThread::isCurrent()");
+    Inbox &box = inbox();
+    while (true) {
+        runBlocks();
+        {
+            const std::lock_guard lock(box.mutex);
+            box.wasWokenUp = false;
+        }
+        if (condition())
+            return;
+        std::unique_lock lock(box.mutex);
+        box.changed.wait(lock, [&] { return box.wasWokenUp || !box.blocks.empty(); });
+    }
+}
+
+void wakeUp()
+{
+    Inbox &box = inbox();
+    {
+        const std::lock_guard lock(box.mutex);
+        box.wasWokenUp = true;
+    }
+    box.changed.notify_all();
+}
+
+} // namespace HRFMainThread

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+/// Blocks of work for the main thread, from whatever thread.
+///
+/// The main thread runs them from its event loop, and also while it waits in serveUntil: a worker
+/// that needs an answer of the main thread gets it even when the main thread waits for that very
+/// worker.
+namespace HRFMainThread {
+
+enum class Wait { No, Yes };
+
+/// Whether the calling thread is the main thread.
+bool isCurrent();
+
+/// Runs a block on the main thread. With Wait::Yes the call returns when the block is done (at once
+/// on the main thread itself) and hands on what the block throws.
+void run(std::function<void()> block, Wait wait);
+
+/// Waits on the main thread until the condition holds, and serves submitted blocks meanwhile, but
+/// no other events. Whoever makes the condition true must call wakeUp afterwards.
+void serveUntil(const std::function<bool()> &condition);
+
+/// Lets serveUntil look at its condition again.
+void wakeUp();
+
+/// Logs what a block threw that nobody waits for.
+void runLoggingFailures(const std::function<void()> &block);
+
+} // namespace HRFMainThread

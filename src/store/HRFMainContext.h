@@ -1,0 +1,106 @@
+#pragma once
+
+#include "store/HRFObjectContext.h"
+
+#include <QUndoStack>
+
+#include <mutex>
+#include <unordered_map>
+#include <unordered_set>
+
+class HRFObjectStore;
+struct HRFPrivateChanges;
+
+/// The context of the main thread: every object of the store, with undo, and with a notification
+/// for the changes of each event.
+///
+/// All members are for the main thread alone but those said to be for private contexts.
+class HRFMainContext : public HRFObjectContext
+{
+    Q_OBJECT
+public:
+    /// Reads all objects of the store.
+    HRFMainContext(std::shared_ptr<const HRFObjectModel> model,
+                   std::shared_ptr<HRFObjectStore> store);
+    ~HRFMainContext() override;
+
+    using HRFObjectContext::fetch;
+    using HRFObjectContext::object;
+    HRFManagedObject *object(HRFObjectID objectID) override;
+    std::vector<HRFManagedObject *> fetch(const QString &entityName) override;
+    bool hasChanges() const override;
+    [[nodiscard]] HRFResult<void> save() override;
+
+    /// Ends the event as far as changes go: tells of those made since the last call, and makes an
+    /// undo command of them. Happens by itself when the event loop comes round.
+    void processPendingChanges();
+
+    QUndoStack &undoManager() { return m_undoManager; }
+    /// A switch, not a counter. Registration is on at first.
+    void enableUndoRegistration() { m_registersUndo = true; }
+    void disableUndoRegistration() { m_registersUndo = false; }
+    bool isUndoRegistrationEnabled() const { return m_registersUndo; }
+    bool isUndoingOrRedoing() const { return m_isUndoing; }
+    /// Names the undo command of the present event.
+    void setUndoActionName(const QString &name) { m_actionName = name; }
+
+    HRFObjectStore &store() const { return *m_store; }
+
+    // For private contexts, from any thread:
+    /// The entity and present values of an object; false when there is none.
+    bool copyObject(HRFObjectID objectID, const HRFEntityDescription *&entity,
+                    HRFValues &values) const;
+    std::vector<HRFObjectID> objectIDs(const HRFEntityDescription &entity) const;
+
+    /// Takes over what a private context has changed: those properties alone, of objects that are
+    /// still there. On the main thread.
+    void merge(HRFPrivateChanges changes);
+
+Q_SIGNALS:
+    void objectsDidChange(const HRFContextChanges &changes);
+
+protected:
+    HRFManagedObject &insert(const HRFEntityDescription &entity) override;
+    void remove(HRFManagedObject &object) override;
+    void setValue(HRFManagedObject &object, int property, const QVariant &value) override;
+
+private:
+    friend class HRFEditCommand;
+    struct OldValue
+    {
+        HRFObjectID objectID;
+        int property;
+        QVariant value;
+    };
+
+    void adopt(std::unique_ptr<HRFManagedObject> object);
+    void noteInserted(HRFManagedObject &object);
+    void noteChange(HRFManagedObject &object, int property);
+    void schedulePendingChanges();
+    void tell(bool isFromBackground);
+    void registerUndo();
+    HRFContextChanges takeChanges();
+
+    const std::shared_ptr<HRFObjectStore> m_store;
+    /// Guards the objects and their values: the main thread changes them with the lock held, and
+    /// reads them without; private contexts read them with the lock held.
+    mutable std::mutex m_lock;
+    std::vector<std::unique_ptr<HRFManagedObject>> m_objects; ///< by object ID
+
+    // The changes of this event:
+    std::vector<HRFObjectID> m_inserted;
+    std::unordered_map<HRFObjectID, HRFPropertySet> m_updated;
+    std::vector<HRFObjectID> m_updatedOrder;
+    std::vector<std::unique_ptr<HRFManagedObject>> m_deleted;
+    std::vector<OldValue> m_oldValues;
+    bool m_isScheduled = false;
+    QString m_actionName;
+
+    // What the store file does not have yet:
+    std::unordered_set<HRFObjectID> m_unsaved;
+    std::vector<std::pair<const HRFEntityDescription *, HRFObjectID>> m_unsavedDeletions;
+
+    QUndoStack m_undoManager;
+    bool m_registersUndo = true;
+    bool m_isUndoing = false;
+};
