@@ -13,6 +13,15 @@ public:
         : std::logic_error("Invalid parameter not satisfying: " + condition)
     {
     }
+
+    /// A failure with a text of its own.
+    static HRFAssertionFailure withText(const std::string &text) { return {text, AsItIs()}; }
+
+private:
+    struct AsItIs
+    {
+    };
+    HRFAssertionFailure(const std::string &text, AsItIs) : std::logic_error(text) { }
 };
 
 /// Throws HRFAssertionFailure with the text @p condition unless @p holds.
@@ -20,4 +29,11 @@ inline void HRFRequire(bool holds, const char *condition)
 {
     if (!holds)
         throw HRFAssertionFailure(condition);
+}
+
+/// Throws HRFAssertionFailure with exactly the given text unless @p holds.
+inline void HRFAssert(bool holds, const std::string &text)
+{
+    if (!holds)
+        throw HRFAssertionFailure::withText(text);
 }

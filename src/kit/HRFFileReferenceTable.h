@@ -21,6 +21,10 @@ std::optional<QString> referenceURLForFile(const HRFFileReference &file);
 /// file, else another name of it in the same folder, else nothing. A path URL gives its path.
 std::optional<HRFFileReference> fileForURL(const QString &url);
 
+/// The folder of the last known path, for display: nothing is looked up on the disk. Nothing for a
+/// reference that this process has not made; a path URL gives the folder of its path.
+std::optional<QString> lastKnownFolderForURL(const QString &url);
+
 /// To be told when this program has moved a file.
 void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
 

@@ -1,8 +1,11 @@
-#include "cli/HRFArtworkFacts.h"
+#include "store/HRFArtworkFacts.h"
 
 #include "kit/HRFImageType.h"
 
 #include <QCryptographicHash>
+#include <QHash>
+
+#include <mutex>
 
 #define XXH_INLINE_ALL
 #include <xxhash.h>
@@ -24,13 +27,31 @@ HRFArtworkFacts examine(const QByteArray &data)
     return facts;
 }
 
+/// The pictures seen of late.
+struct Memory
+{
+    std::mutex lock; ///< guards the hash
+    QHash<QByteArray, HRFArtworkFacts> factsByDigest;
+};
+
 } // namespace
 
-const HRFArtworkFacts &HRFArtworkExaminer::factsForPicture(const QByteArray &data)
+HRFArtworkFacts HRFArtworkFactsForPicture(const QByteArray &data)
 {
+    constexpr qsizetype mostRemembered = 10000;
+    static Memory memory;
     const XXH128_hash_t digest = XXH3_128bits(data.constData(), std::size_t(data.size()));
     const QByteArray key(reinterpret_cast<const char *>(&digest), sizeof digest);
-    const auto found = m_factsByDigest.constFind(key);
-    return found != m_factsByDigest.constEnd() ? *found
-                                               : *m_factsByDigest.insert(key, examine(data));
+    {
+        const std::lock_guard lock(memory.lock);
+        if (const auto found = memory.factsByDigest.constFind(key);
+            found != memory.factsByDigest.constEnd())
+            return *found;
+    }
+    const HRFArtworkFacts facts = examine(data);
+    const std::lock_guard lock(memory.lock);
+    if (memory.factsByDigest.size() >= mostRemembered)
+        memory.factsByDigest.clear();
+    memory.factsByDigest.insert(key, facts);
+    return facts;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/HRFObjectContext.h"
+#include "store/HRFPrivateContext.h"
 
 #include <QUndoStack>
 
@@ -9,7 +9,6 @@
 #include <unordered_set>
 
 class HRFObjectStore;
-struct HRFPrivateChanges;
 
 /// The context of the main thread: every object of the store, with undo, and with a notification
 /// for the changes of each event.
@@ -73,6 +72,7 @@ private:
         QVariant value;
     };
 
+    void mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source);
     void adopt(std::unique_ptr<HRFManagedObject> object);
     void noteInserted(HRFManagedObject &object);
     void noteChange(HRFManagedObject &object, int property);

@@ -29,7 +29,7 @@ public:
 
     /// The value of an attribute; the entity must have it (assertion "hasAttribute").
     virtual QVariant valueForKey(const QString &name) const;
-    /// Sets an attribute; no value or the null marker takes its value away.
+    /// Sets an attribute; no value, the null marker and empty text take its value away.
     virtual void setValueForKey(const QVariant &value, const QString &name);
     /// The same by property number, for attributes alone.
     const QVariant &value(int property) const { return m_values.value(property); }
@@ -46,8 +46,6 @@ public:
 
     /// Called once, when the object is made anew and not read from a store or another context.
     virtual void awakeFromInsert() { }
-    /// Called after the value of a property has changed, for whatever reason.
-    virtual void didChangeValue(int property) { static_cast<void>(property); }
 
 private:
     friend class HRFObjectContext;

@@ -37,8 +37,11 @@ public:
     QString fileURL() const;
     /// Stores the URL, and the name of the file that it leads to as fileInfo.fileName.
     void setFileURL(const QString &url);
-    /// The file at its present path; nothing when it is not found, and in private contexts.
+    /// The file at its present path, which is looked up on the disk; nothing when it is not found,
+    /// and in private contexts.
     std::optional<HRFFileReference> url() const;
+    /// The folder of the last known path, for display; nothing in private contexts.
+    std::optional<QString> folder() const;
 
     void setValueForKey(const QVariant &value, const QString &name) override;
     void awakeFromInsert() override;

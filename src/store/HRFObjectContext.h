@@ -73,7 +73,7 @@ public:
     /// store file, in one transaction. When that fails the changes stay.
     [[nodiscard]] virtual HRFResult<void> save() = 0;
 
-    const HRFObjectModel &model() const { return *m_model; }
+    const std::shared_ptr<const HRFObjectModel> &model() const { return m_model; }
 
 protected:
     explicit HRFObjectContext(std::shared_ptr<const HRFObjectModel> model);

@@ -30,7 +30,8 @@ struct HRFPrivateChanges
 
 /// A context for background work, whose parent is a main context. It has no undo and sends no
 /// notifications. Blocks run on it one at a time; nothing else may touch it.
-class HRFPrivateContext : public HRFObjectContext
+class HRFPrivateContext : public HRFObjectContext,
+                          public std::enable_shared_from_this<HRFPrivateContext>
 {
     Q_OBJECT
 public:

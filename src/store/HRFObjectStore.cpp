@@ -1,0 +1,255 @@
+#include "store/HRFObjectStore.h"
+
+#include <QDateTime>
+#include <QFile>
+
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Quotes a name for SQL.
+std::string quoted(const QString &name)
+{
+    return '"' + name.toStdString() + '"';
+}
+
+/// The declared type of a property's column.
+std::string columnType(const HRFEntityDescription &entity, int property)
+{
+    if (entity.isRelationship(property))
+        return "OBJECT";
+    switch (entity.attributes[std::size_t(property)].type) {
+    case HRFAttributeType::String:
+        return "TEXT";
+    case HRFAttributeType::Boolean:
+        return "BOOLEAN";
+    case HRFAttributeType::Date:
+        return "DATE";
+    case HRFAttributeType::Decimal:
+    case HRFAttributeType::Double:
+    case HRFAttributeType::Float:
+        return "REAL";
+    default:
+        return "INTEGER";
+    }
+}
+
+std::string columnDefinition(const HRFEntityDescription &entity, int property)
+{
+    return quoted(entity.propertyName(property)) + ' ' + columnType(entity, property);
+}
+
+void bindValue(SQLite::Statement &statement, int parameter, const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QString: {
+        const QByteArray text = static_cast<const QString *>(value.constData())->toUtf8();
+        statement.bind(parameter, text.toStdString());
+        break;
+    }
+    case QMetaType::QDateTime:
+        statement.bind(parameter, int64_t(value.toDateTime().toMSecsSinceEpoch()));
+        break;
+    case QMetaType::Double:
+        statement.bind(parameter, value.toDouble());
+        break;
+    default:
+        statement.bind(parameter, int64_t(value.toLongLong()));
+    }
+}
+
+QVariant columnValue(const SQLite::Column &column, const std::string &type)
+{
+    if (column.isNull())
+        return {};
+    if (type == "TEXT")
+        return QString::fromUtf8(column.getText(), column.getBytes());
+    if (type == "BOOLEAN")
+        return column.getInt() != 0;
+    if (type == "DATE")
+        return QDateTime::fromMSecsSinceEpoch(column.getInt64(), Qt::UTC);
+    if (type == "REAL")
+        return column.getDouble();
+    return qlonglong(column.getInt64());
+}
+
+HRFError storeError(const SQLite::Exception &failure, const QString &path)
+{
+    return {.domain = QString::fromLatin1(HRFStoreErrorDomain),
+            .code = failure.getErrorCode(),
+            .description = QString::fromUtf8(failure.what()),
+            .path = path};
+}
+
+} // namespace
+
+HRFObjectStore::HRFObjectStore(const QString &path, std::shared_ptr<const HRFObjectModel> model)
+    : m_path(path), m_model(std::move(model)),
+      m_database(QFile::encodeName(path).toStdString(),
+                 SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+{
+}
+
+HRFResult<std::shared_ptr<HRFObjectStore>>
+HRFObjectStore::open(const QString &path, std::shared_ptr<const HRFObjectModel> model,
+                     Migrates migrates, Durability durability)
+{
+    try {
+        std::shared_ptr<HRFObjectStore> store(new HRFObjectStore(path, std::move(model)));
+        store->configure(durability);
+        SQLite::Transaction transaction(store->m_database);
+        store->makeTables(migrates);
+        transaction.commit();
+        store->readRows();
+        store->prepareStatements();
+        return store;
+    } catch (const SQLite::Exception &failure) {
+        return std::unexpected(storeError(failure, path));
+    }
+}
+
+void HRFObjectStore::configure(Durability durability)
+{
+    m_database.exec("PRAGMA journal_mode = WAL");
+    // A session is worth nothing after a crash of the machine.
+    m_database.exec(durability == Durability::Session ? "PRAGMA synchronous = OFF"
+                                                      : "PRAGMA synchronous = NORMAL");
+}
+
+void HRFObjectStore::makeTables(Migrates migrates)
+{
+    for (const auto &entity : m_model->entities()) {
+        if (m_database.tableExists(entity->name.toStdString())) {
+            migrateTable(*entity, migrates);
+            continue;
+        }
+        std::string columns = "id INTEGER PRIMARY KEY";
+        for (int property = 0; property < entity->propertyCount(); ++property)
+            columns += ", " + columnDefinition(*entity, property);
+        m_database.exec("CREATE TABLE " + quoted(entity->name) + " (" + columns + ')');
+    }
+    dropUnknownTables();
+}
+
+void HRFObjectStore::migrateTable(const HRFEntityDescription &entity, Migrates migrates)
+{
+    QHash<QString, std::string> present;
+    SQLite::Statement query(m_database, "PRAGMA table_info(" + quoted(entity.name) + ')');
+    while (query.executeStep())
+        present.insert(QString::fromUtf8(query.getColumn(1).getText()),
+                       query.getColumn(2).getText());
+    const std::string alter = "ALTER TABLE " + quoted(entity.name);
+    present.remove(u"id"_s);
+    for (int property = 0; property < entity.propertyCount(); ++property) {
+        const auto found = present.constFind(entity.propertyName(property));
+        if (found == present.constEnd() && migrates == Migrates::Yes)
+            m_database.exec(alter + " ADD COLUMN " + columnDefinition(entity, property));
+        else if (found == present.constEnd() || *found != columnType(entity, property))
+            throw SQLite::Exception("The store was made for another model.", SQLITE_SCHEMA);
+        present.remove(entity.propertyName(property));
+    }
+    for (const QString &name : present.keys())
+        m_database.exec(alter + " DROP COLUMN " + quoted(name));
+}
+
+void HRFObjectStore::dropUnknownTables()
+{
+    QStringList unknown;
+    SQLite::Statement query(m_database, "SELECT name FROM sqlite_schema WHERE type = 'table' AND "
+                                        "name NOT LIKE 'sqlite_%'");
+    while (query.executeStep())
+        if (const auto name = QString::fromUtf8(query.getColumn(0).getText());
+            !m_model->entityNamed(name))
+            unknown.append(name);
+    query.reset();
+    for (const QString &name : unknown)
+        m_database.exec("DROP TABLE " + quoted(name));
+}
+
+void HRFObjectStore::readRows()
+{
+    for (const auto &entity : m_model->entities()) {
+        std::string columns = "id";
+        std::vector<std::string> types;
+        for (int property = 0; property < entity->propertyCount(); ++property) {
+            columns += ", " + quoted(entity->propertyName(property));
+            types.push_back(columnType(*entity, property));
+        }
+        SQLite::Statement query(m_database, "SELECT " + columns + " FROM " + quoted(entity->name)
+                                    + " ORDER BY id");
+        while (query.executeStep()) {
+            HRFValues values;
+            for (int property = 0; property < entity->propertyCount(); ++property)
+                values.setValue(property, columnValue(query.getColumn(property + 1),
+                                                      types[std::size_t(property)]));
+            const HRFObjectID objectID = query.getColumn(0).getInt64();
+            m_nextObjectID = std::max(m_nextObjectID.load(), objectID + 1);
+            m_rows.push_back({entity.get(), objectID, std::move(values)});
+        }
+    }
+}
+
+void HRFObjectStore::prepareStatements()
+{
+    for (const auto &entity : m_model->entities()) {
+        std::string columns = "id";
+        std::string parameters = "?";
+        for (int property = 0; property < entity->propertyCount(); ++property) {
+            columns += ", " + quoted(entity->propertyName(property));
+            parameters += ", ?";
+        }
+        m_storeStatements.emplace_back(m_database, "INSERT OR REPLACE INTO " + quoted(entity->name)
+                                           + " (" + columns + ") VALUES (" + parameters + ')');
+        m_deleteStatements.emplace_back(m_database,
+                                        "DELETE FROM " + quoted(entity->name) + " WHERE id = ?");
+    }
+}
+
+HRFResult<void> HRFObjectStore::write(const Changes &changes)
+{
+    try {
+        SQLite::Transaction transaction(m_database);
+        for (const HRFManagedObject *object : changes.stored)
+            storeObject(*object);
+        for (const auto &[entity, objectID] : changes.deleted) {
+            SQLite::Statement &statement = m_deleteStatements[std::size_t(entity->index)];
+            statement.bind(1, int64_t(objectID));
+            statement.exec();
+            statement.reset();
+        }
+        transaction.commit();
+        return {};
+    } catch (const SQLite::Exception &failure) {
+        return std::unexpected(storeError(failure, m_path));
+    }
+}
+
+void HRFObjectStore::storeObject(const HRFManagedObject &object)
+{
+    SQLite::Statement &statement = m_storeStatements[std::size_t(object.entity().index)];
+    statement.tryReset(); // it may have failed the last time
+    statement.clearBindings();
+    statement.bind(1, int64_t(object.objectID()));
+    HRFForEachProperty(object.values().present(), [&](int property) {
+        constexpr int firstProperty = 2;
+        bindValue(statement, firstProperty + property, object.value(property));
+    });
+    statement.exec();
+}
+
+void HRFObjectStore::shareTexts(HRFValues &values)
+{
+    const std::lock_guard lock(m_textsLock);
+    HRFForEachProperty(values.present(), [&](int property) {
+        const QVariant &value = values.value(property);
+        if (value.typeId() == QMetaType::QString)
+            values.setValue(property, *m_texts.insert(value.toString()));
+    });
+    if (m_texts.size() < m_textsWorthPruning)
+        return;
+    // A text that only this set holds is in no record any more.
+    m_texts.removeIf([](const QString &text) { return text.isDetached(); });
+    m_textsWorthPruning = std::max(m_textsWorthPruning, 2 * m_texts.size());
+}
