@@ -18,6 +18,6 @@ if(LIRRA_FUZZ)
     include(LirraInstrumentedTagLib)
 endif()
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Test)
 find_package(ZLIB REQUIRED)
 find_package(taglib 2.0 CONFIG REQUIRED)

@@ -183,6 +183,21 @@ std::optional<HRFFileReference> HRFFileReferenceTable::fileForURL(const QString 
     return pathURL.isLocalFile() ? std::optional(HRFFileReference::fromUrl(pathURL)) : std::nullopt;
 }
 
+std::optional<QString> HRFFileReferenceTable::lastKnownFolderForURL(const QString &url)
+{
+    const auto folderOf = [](const Place &place) {
+        const bool isRoot = place.folder.size() == 1;
+        return QString::fromUtf8(isRoot ? place.folder : place.folder.chopped(1));
+    };
+    if (!url.startsWith(referencePrefix)) {
+        const auto file = fileForURL(url);
+        return file ? std::optional(folderOf(Place::of(file->nativePath()))) : std::nullopt;
+    }
+    const std::optional<Identity> identity = identityFromURL(url);
+    const auto known = identity ? Table::shared().place(*identity) : std::nullopt;
+    return known ? std::optional(folderOf(*known)) : std::nullopt;
+}
+
 void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFFileReference &to)
 {
     const std::optional<Identity> identity = identityAt(to.nativePath());
