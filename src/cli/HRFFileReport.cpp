@@ -2,6 +2,7 @@
 
 #include "cli/HRFConsole.h"
 #include "cli/HRFValueText.h"
+#include "store/HRFArtworkFacts.h"
 #include "tags/HRFTagEngine.h"
 
 #include <QJsonArray>
@@ -90,7 +91,7 @@ QByteArray HRFFileReport::json(const HRFTagEngine &engine)
         insertValue(properties, engine, key);
     object.insert(u"properties"_s, properties);
     if (const auto picture = engine.artwork(); picture && !picture->isEmpty())
-        object.insert(u"artwork"_s, jsonArtwork(m_artworks.factsForPicture(*picture)));
+        object.insert(u"artwork"_s, jsonArtwork(HRFArtworkFactsForPicture(*picture)));
     insertValue(object, engine, K::tagSize);
     insertValue(object, engine, K::framesCount);
     if (m_printsFrames)
@@ -108,7 +109,7 @@ QByteArray HRFFileReport::text(const HRFTagEngine &engine)
     };
     forEachTextualTag(addValue);
     if (const auto picture = engine.artwork(); picture && !picture->isEmpty()) {
-        const HRFArtworkFacts &facts = m_artworks.factsForPicture(*picture);
+        const HRFArtworkFacts &facts = HRFArtworkFactsForPicture(*picture);
         text += line(u"artwork"_s,
                      u"%1 %2 %3 bytes"_s.arg(facts.imageType, facts.imageSize)
                          .arg(facts.imageDataSize)

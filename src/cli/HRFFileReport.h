@@ -1,7 +1,5 @@
 #pragma once
 
-#include "cli/HRFArtworkFacts.h"
-
 #include <QByteArray>
 
 class HRFTagEngine;
@@ -19,5 +17,4 @@ public:
 
 private:
     bool m_printsFrames;
-    HRFArtworkExaminer m_artworks;
 };
