@@ -186,7 +186,7 @@ std::optional<HRFFileReference> HRFFileReferenceTable::fileForURL(const QString 
 std::optional<QString> HRFFileReferenceTable::lastKnownFolderForURL(const QString &url)
 {
     const auto folderOf = [](const Place &place) {
-        const bool isRoot = place.folder.size() == 1;
+        const bool isRoot = place.folder.size() <= 1;
         return QString::fromUtf8(isRoot ? place.folder : place.folder.chopped(1));
     };
     if (!url.startsWith(referencePrefix)) {

@@ -5,6 +5,8 @@
 
 #include <filesystem>
 #include <fstream>
+#include <thread>
+#include <vector>
 
 namespace fs = std::filesystem;
 using namespace Qt::StringLiterals;
@@ -94,6 +96,25 @@ TEST_F(HRFFileReferenceTableTest, FollowsRenamesOfLinksToFiles)
     EXPECT_EQ(resolved(url), at("other.mp3"));
 }
 
+TEST_F(HRFFileReferenceTableTest, ServesManyThreads)
+{
+    constexpr int threadCount = 4;
+    constexpr int renameCount = 100;
+    std::vector<std::jthread> threads;
+    for (int thread = 0; thread < threadCount; ++thread)
+        threads.emplace_back([this, path = made(std::to_string(thread) + ".mp3")] {
+            const QString url = reference(path);
+            for (int i = 0; i < renameCount; ++i) {
+                const std::string newPath = path + (i % 2 ? "x" : "y");
+                fs::rename(path, newPath);
+                EXPECT_EQ(resolved(url), newPath);
+                fs::rename(newPath, path);
+                HRFFileReferenceTable::fileDidMove(file(newPath), file(path));
+                EXPECT_EQ(resolved(url), path);
+            }
+        });
+}
+
 TEST_F(HRFFileReferenceTableTest, KeepsPathsWhenTheWorkingFolderChanges)
 {
     const fs::path before = fs::current_path();
@@ -101,6 +122,22 @@ TEST_F(HRFFileReferenceTableTest, KeepsPathsWhenTheWorkingFolderChanges)
     const QString url = reference("a.mp3");
     fs::current_path(before);
     EXPECT_EQ(fs::path(resolved(url)), fs::canonical(at("a.mp3")));
+}
+
+TEST_F(HRFFileReferenceTableTest, RemembersTheFolderOfVanishedFiles)
+{
+    const QString url = reference(made("a.mp3"));
+    fs::remove(at("a.mp3"));
+    const std::pair<QString, std::optional<QString>> cases[] = {
+        {url, m_folder.path()},
+        {u"file:///a/b%20c/d.mp3"_s, u"/a/b c"_s},
+        {u"file:///d.mp3"_s, u"/"_s},
+        {u"file:d.mp3"_s, u""_s},
+        {u"file:///.file/id=1.18446744073709551615"_s, std::nullopt},
+        {u"a.mp3"_s, std::nullopt}};
+    for (const auto &[asked, folder] : cases)
+        EXPECT_EQ(HRFFileReferenceTable::lastKnownFolderForURL(asked), folder)
+            << asked.toStdString();
 }
 
 TEST_F(HRFFileReferenceTableTest, ReadsOtherURLs)
