@@ -40,8 +40,6 @@ public:
     /// Lets this operation start only when the other one is finished; the other one may belong to
     /// another queue. To be called before this one is in a queue (assertion "!queue").
     void addDependency(const std::shared_ptr<HRFOperation> &operation);
-    /// Those that are not finished yet.
-    std::vector<std::shared_ptr<HRFOperation>> dependencies() const;
 
     Priority queuePriority() const;
     /// To be called before this operation is in a queue (assertion "!queue").
@@ -61,8 +59,11 @@ private:
     /// Ending: cancelled before the start, and about to be finished.
     enum class State { Pending, Executing, Ending, Finished };
 
+    // For the schedule:
     bool start();
     void run();
+    static void waitOnMainThread(const std::function<bool()> &condition);
+
     void finish();
     void announceFinish();
     void dependencyDidFinish();
@@ -73,9 +74,7 @@ private:
     bool m_isCancelled = false;
     Priority m_priority = Priority::Normal;
     int m_unfinishedDependencies = 0;
-    std::vector<std::weak_ptr<HRFOperation>> m_dependencies;
     std::vector<std::weak_ptr<HRFOperation>> m_dependents;
     std::weak_ptr<HRFOperationSchedule> m_schedule; ///< of the queue that the operation is in
-    bool m_isInQueue = false;
-    quint64 m_number = 0; ///< in the schedule
+    quint64 m_number = 0; ///< in the schedule; 0 before it is in a queue, final afterwards
 };

@@ -12,9 +12,6 @@ class HRFFileOperation;
 /// tags are going to be stripped.
 class HRFOperationQueue : public HRFWorkQueue
 {
-public:
-    ~HRFOperationQueue() override;
-
 protected:
     void preProcessOperation(const std::shared_ptr<HRFOperation> &operation) override;
 
@@ -22,7 +19,11 @@ private:
     void preProcessFileOperation(const std::shared_ptr<HRFFileOperation> &operation);
     void forgetFinishedOperations();
 
+    using Operations = std::vector<std::weak_ptr<HRFFileOperation>>;
+
     std::mutex m_mapMutex; ///< guards the members below, and lets one pre-processing run at a time
-    QHash<QString, std::weak_ptr<HRFFileOperation>> m_filePathToLastOperationMap;
+    /// By file key. The last of each file is the one that counts; the others matter when it is
+    /// cancelled, as it does not wait for them then.
+    QHash<QString, Operations> m_filePathToOperationsMap;
     qsizetype m_mapSizeToTidy = 64; ///< the map is tidied when it is that large
 };

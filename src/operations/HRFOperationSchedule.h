@@ -50,12 +50,12 @@ private:
     using Rank = std::tuple<quint64, int, quint64>;
 
     // To be told by operations:
-    void dependenciesDidFinish(HRFOperation &operation);
+    void dependenciesDidFinish(quint64 number);
     void finish(HRFOperation &operation);
 
     // With m_mutex held:
     void insert(const std::shared_ptr<HRFOperation> &operation, bool isBarrier);
-    Rank rankOf(const HRFOperation &operation, const Entry &entry) const;
+    static Rank rankOf(quint64 number, const Entry &entry);
     std::shared_ptr<HRFOperation> takeNext();
 
     const std::shared_ptr<HRFProgress> m_progress = std::make_shared<HRFProgress>();

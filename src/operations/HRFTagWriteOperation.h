@@ -36,8 +36,6 @@ protected:
     [[nodiscard]] virtual HRFResult<void> updateEngine(HRFTagEngine &engine);
     /// Asks the user what to do about an error, on the main thread; answers whether to try again.
     virtual bool attemptRecoveryFromError(const HRFError &error);
-    /// The error of a change that fails without a reason of its own.
-    HRFError failedError() const;
 
 private:
     [[nodiscard]] HRFResult<void> write();

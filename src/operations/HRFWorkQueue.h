@@ -25,7 +25,7 @@ public:
     /// Cancels all operations and waits for the one that runs.
     virtual ~HRFWorkQueue();
 
-    /// How many operations may run at a time; 1 at first.
+    /// How many operations may run at a time: 1 at first. It can only grow.
     void setMaxConcurrentOperationCount(std::size_t count);
 
     void addOperation(const std::shared_ptr<HRFOperation> &operation);
@@ -55,10 +55,11 @@ protected:
     }
 
 private:
-    void startThread();
+    /// Answers whether there was room for one more.
+    bool makeThread();
 
     const std::shared_ptr<HRFOperationSchedule> m_schedule;
     std::mutex m_mutex; ///< guards the members below
     std::size_t m_width = 1;
-    std::vector<std::jthread> m_threads; ///< started as operations come, up to m_width
+    std::vector<std::jthread> m_threads; ///< at most m_width
 };

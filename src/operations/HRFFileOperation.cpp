@@ -1,0 +1,114 @@
+#include "operations/HRFFileOperation.h"
+
+#include "kit/HRFFileReferenceTable.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFSystemFile.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("HRFFileOperation", text);
+}
+
+HRFError notFoundError(const QString &fileName)
+{
+    HRFError error;
+    error.domain = QString::fromLatin1(HRFFileErrorDomain);
+    error.code = HRFFileErrorCode::noSuchFile;
+    error.description = tr("The file “%1” could not be found").arg(fileName);
+    error.recoverySuggestion = tr("It was deleted, replaced, or moved to another place.");
+    return error;
+}
+
+} // namespace
+
+void HRFFileOperation::setFile(const HRFMetaFile &file)
+{
+    m_objectID = file.objectID();
+    const HRFFileReference url = file.url().value_or(HRFFileReference());
+    const std::lock_guard lock(m_fieldsMutex);
+    m_fileURL = url;
+    m_fileName = file.fileInfo().displayFileName();
+    m_referenceURL = file.fileURL();
+}
+
+HRFFileReference HRFFileOperation::fileURL() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_fileURL;
+}
+
+void HRFFileOperation::setFileURL(const HRFFileReference &file)
+{
+    const QString referenceURL =
+        HRFFileReferenceTable::referenceURLForFile(file).value_or(QString());
+    const std::lock_guard lock(m_fieldsMutex);
+    m_fileURL = file;
+    m_fileName = file.displayName();
+    m_referenceURL = referenceURL;
+}
+
+QString HRFFileOperation::fileName() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_fileName;
+}
+
+QString HRFFileOperation::fileKey() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_referenceURL.isEmpty() ? QString::fromLatin1(m_fileURL.nativePath()) : m_referenceURL;
+}
+
+std::shared_ptr<HRFProgress> HRFFileOperation::progress() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_progress.lock();
+}
+
+void HRFFileOperation::setProgress(const std::shared_ptr<HRFProgress> &progress)
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    m_progress = progress;
+}
+
+bool HRFFileOperation::isCancelledWithBatch() const
+{
+    const std::shared_ptr<HRFProgress> batch = progress();
+    return isCancelled() || (batch && batch->isCancelled());
+}
+
+std::optional<HRFError> HRFFileOperation::error() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_error;
+}
+
+void HRFFileOperation::setError(const std::optional<HRFError> &error)
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    m_error = error;
+}
+
+HRFResult<HRFFileReference> HRFFileOperation::findFile()
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    if (!m_referenceURL.isEmpty())
+        m_fileURL = HRFFileReferenceTable::fileForURL(m_referenceURL).value_or(HRFFileReference());
+    if (m_fileURL.isNull())
+        return std::unexpected(notFoundError(m_fileName));
+    return m_fileURL;
+}
+
+void HRFFileOperation::mainDidThrow(const std::exception &failure)
+{
+    HRFError error;
+    error.domain = QString::fromLatin1(HRFLirraErrorDomain);
+    error.description = tr("Could not process file: “%1”").arg(fileName());
+    error.recoverySuggestion = QString::fromUtf8(failure.what());
+    setError(error);
+    setSucceeded(false);
+}

@@ -1,0 +1,50 @@
+#include "operations/HRFMetaFile+Operations.h"
+#include "operations/HRFStripTagsOperation.h"
+#include "store/HRFArtworkProperties.h"
+#include "store/HRFAudioProperties.h"
+#include "store/HRFFileSnapshot.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFSystemFile.h"
+#include "tags/HRFTagEngine.h"
+
+#include <QLoggingCategory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void readAnew(HRFMetaFile &file, const HRFFileReference &url)
+{
+    const auto engine = HRFTagEngine::initWithURL(url, true);
+    if (engine)
+        file.importValues(HRFFileSnapshot::of(**engine));
+    else
+        qWarning("%s", qUtf8Printable(engine.error().fullText()));
+}
+
+void takeValues(HRFManagedObject &object, const QHash<QString, QVariant> &values)
+{
+    for (const auto &[name, value] : values.asKeyValueRange())
+        object.setValueForKey(value, name);
+}
+
+void takeResults(HRFMetaFile &file, const HRFTagWriteOperation &operation)
+{
+    takeValues(file, operation.properties());
+    takeValues(file.properties(), operation.audioProperties());
+    const QHash<QString, QVariant> changedValues = operation.changedValues();
+    const auto artwork = changedValues.constFind(u"artwork"_s);
+    if (artwork != changedValues.constEnd())
+        file.artworkProperties().updateWithBitmapData(artwork->toByteArray());
+}
+
+} // namespace
+
+void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation)
+{
+    if (dynamic_cast<const HRFStripTagsOperation *>(&operation))
+        return readAnew(file, operation.fileURL());
+    if (const auto *write = dynamic_cast<const HRFTagWriteOperation *>(&operation))
+        takeResults(file, *write);
+    file.fileInfo().updateAttributesForItemAtURL(operation.fileURL());
+}

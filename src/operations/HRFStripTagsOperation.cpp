@@ -1,0 +1,8 @@
+#include "operations/HRFStripTagsOperation.h"
+
+#include "tags/HRFTagEngine.h"
+
+HRFResult<void> HRFStripTagsOperation::updateEngine(HRFTagEngine &engine)
+{
+    return engine.stripTags();
+}
