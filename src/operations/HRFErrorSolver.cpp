@@ -1,6 +1,7 @@
 #include "operations/HRFErrorSolver.h"
 
 #include "kit/HRFAssert.h"
+#include "kit/HRFMainThread.h"
 
 #include <QCoreApplication>
 
@@ -116,9 +117,10 @@ bool presentErrorSolver(HRFErrorSolver &solver, const QString &title)
 bool presentErrorSolver(HRFErrorSolver &solver, std::optional<int> &appliedToAllResponse,
                         bool showsSuppressionButton, const QString &title)
 {
+    HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     if (appliedToAllResponse) {
-        HRFRequire(*appliedToAllResponse < solver.recoveryOptions().size(),
-                   "Recovery option index is out of bounds");
+        HRFAssert(*appliedToAllResponse < solver.recoveryOptions().size(),
+                  "Recovery option index is out of bounds");
         return solver.attemptRecoveryFromError(solver.error(), *appliedToAllResponse);
     }
     const HRFAlertAnswer answer =

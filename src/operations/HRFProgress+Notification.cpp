@@ -1,3 +1,5 @@
+#include "kit/HRFAssert.h"
+#include "kit/HRFMainThread.h"
 #include "kit/HRFUserInteraction.h"
 #include "operations/HRFProgress+Notification.h"
 #include "operations/HRFProgress.h"
@@ -17,6 +19,7 @@ QString tr(const char *text)
 
 void sendAssociatedNotificationRegardless(const HRFProgress &progress, bool regardless)
 {
+    HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     const qlonglong total = progress.totalUnitCount();
     const qlonglong completed = std::max<qlonglong>(progress.completedUnitCount(), 0);
     QString text = tr("%1 File(s) Processed.").arg(total);

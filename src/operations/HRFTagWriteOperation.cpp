@@ -88,7 +88,7 @@ void HRFTagWriteOperation::main()
 {
     if (isCancelledWithBatch())
         return;
-    while (const HRFResult<void> written = write(); !written) {
+    for (HRFResult<void> written = write(); !written; written = write()) {
         setError(written.error());
         bool triesAgain = false;
         const auto ask = [&] {
