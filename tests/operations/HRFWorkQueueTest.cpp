@@ -104,6 +104,25 @@ TEST_F(HRFWorkQueueTest, DependenciesHoldAcrossQueuesAndNotForTheCancelled)
     EXPECT_EQ(order, "abc");
 }
 
+TEST_F(HRFWorkQueueTest, ABarrierWaitsForWhatIsNotReady)
+{
+    HRFWorkQueue other;
+    for (const bool isCancelled : {true, false}) {
+        const auto gate = hold(other);
+        const auto waiting = letter('a');
+        waiting->addDependency(gate);
+        queue.addOperation(waiting);
+        queue.addBarrierBlock([&] { note(waiting->isFinished() ? '|' : '!'); });
+        if (isCancelled) {
+            waiting->cancel();
+            queue.waitUntilAllOperationsAreFinished();
+        }
+        gate->open();
+        queue.waitUntilAllOperationsAreFinished();
+    }
+    EXPECT_EQ(order, "|a|");
+}
+
 TEST_F(HRFWorkQueueTest, WaitingServesTheMainThreadWhateverOperationsThrow)
 {
     const auto askMainThread = [this] {
