@@ -1,0 +1,58 @@
+#include "document/HRFRecordColumn.h"
+
+#include "store/HRFMetaFile.h"
+#include "store/HRFObjectModel.h"
+#include "store/HRFValueTransformer.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int relationshipTo(const HRFEntityDescription &entity)
+{
+    const HRFRelationshipDescription *back = entity.relationshipNamed(u"parentMetaFile"_s);
+    return back ? back->destination->relationshipNamed(back->inverseName)->index : -1;
+}
+
+QString transformerOf(const HRFAttributeDescription &attribute)
+{
+    const QString name = attribute.displayValueTransformerName();
+    return name == HRFValueTransformer::metadataString ? QString() : name;
+}
+
+} // namespace
+
+HRFRecordColumn::HRFRecordColumn(const HRFAttributeDescription &attribute)
+    : m_attribute(&attribute)
+    , m_relationship(relationshipTo(*attribute.entity))
+    , m_isStored(!attribute.isFilePath())
+    , m_transformer(transformerOf(attribute))
+{
+}
+
+std::optional<HRFRecordColumn> HRFRecordColumn::atKeyPath(const HRFObjectModel &model,
+                                                          const QString &keyPath)
+{
+    const HRFEntityDescription *entity = model.entityNamed(HRFMetaFile::entityName());
+    const qsizetype dot = keyPath.indexOf(u'.');
+    if (dot >= 0) {
+        const HRFRelationshipDescription *part = entity->relationshipNamed(keyPath.left(dot));
+        entity = part ? part->destination : nullptr;
+    }
+    const HRFAttributeDescription *attribute =
+        entity ? entity->attributeNamed(keyPath.mid(dot + 1)) : nullptr;
+    return attribute ? std::optional(HRFRecordColumn(*attribute)) : std::nullopt;
+}
+
+QVariant HRFRecordColumn::value(const HRFMetaFile &file) const
+{
+    const HRFManagedObject *record = m_relationship < 0 ? &file : file.related(m_relationship);
+    return m_isStored ? record->value(m_attribute->index) : record->valueForKey(m_attribute->name);
+}
+
+QString HRFRecordColumn::text(const HRFMetaFile &file) const
+{
+    const QVariant present = value(file);
+    return m_transformer.isEmpty() ? present.toString()
+                                   : HRFTransformedValue(m_transformer, present);
+}
