@@ -4,6 +4,7 @@
 #include "compare/HRFResultTable.h"
 #include "sides/HRFBenchSide.h"
 #include "sides/HRFFilesBelow.h"
+#include "sides/HRFListSide.h"
 
 #include <algorithm>
 #include <span>
@@ -62,13 +63,13 @@ void measureShowing(const HRFMeasuringPlace &place)
 }
 
 /// Copies the first files of the corpus.
-Files copyFiles(const HRFMeasuringPlace &place, std::size_t count)
+Files copyFiles(const fs::path &corpus, const fs::path &folder, std::size_t count)
 {
     Files copies;
-    for (const fs::path &file : HRFFilesBelow(place.corpus)) {
+    for (const fs::path &file : HRFFilesBelow(corpus)) {
         if (copies.size() == count)
             break;
-        copies.push_back(place.scratch / fs::relative(file, place.corpus));
+        copies.push_back(folder / fs::relative(file, corpus));
         fs::create_directories(copies.back().parent_path());
         fs::copy_file(file, copies.back());
     }
@@ -82,10 +83,11 @@ std::string nextTitle()
     return "Title number " + std::to_string(++number);
 }
 
+constexpr std::size_t fileCountToWrite = 2000;
+
 void measureWriting(const HRFMeasuringPlace &place)
 {
-    constexpr std::size_t fileCount = 2000;
-    const Files files = copyFiles(place, fileCount);
+    const Files files = copyFiles(place.corpus, place.scratch / "engines", fileCountToWrite);
     const auto writer = [&files](const HRFBenchSide &side) {
         return [&files, &side](std::size_t part) {
             const std::string title = nextTitle();
@@ -99,6 +101,44 @@ void measureWriting(const HRFMeasuringPlace &place)
                              .partCount = partCountOf(files),
                              .prepare = ::sync};
     HRFResultTable::printRatio("write the title", HRFCompare(contest, roundCount), 1.2);
+}
+
+void measureImporting(const HRFMeasuringPlace &place)
+{
+    std::unique_ptr<HRFListSide> list;
+    const Files files = HRFFilesBelow(place.corpus);
+    const auto readAll = [&](std::size_t) {
+        for (const fs::path &file : files)
+            HRFPlainTagLibSide.read(file);
+    };
+    const HRFContest contest{.lirra = [&](std::size_t) { list->import(place.corpus); },
+                             .plain = readAll,
+                             .prepare =
+                                 [&list] {
+                                     list.reset();
+                                     list = std::make_unique<HRFListSide>();
+                                 }};
+    HRFResultTable::printRatio("import into a list until it is saved",
+                               HRFCompare(contest, roundCount), 1.0);
+}
+
+void measureWritingThroughQueue(const HRFMeasuringPlace &place)
+{
+    const fs::path folder = place.scratch / "list";
+    HRFListSide list;
+    const Files files = copyFiles(place.corpus, folder, fileCountToWrite);
+    list.import(folder);
+    const HRFContest contest{
+        .lirra = [&](std::size_t) { list.writeTitle(0, list.fileCount(), nextTitle()); },
+        .plain =
+            [&](std::size_t) {
+                const std::string title = nextTitle();
+                for (const fs::path &file : files)
+                    HRFPlainTagLibSide.writeTitle(file, title);
+            },
+        .prepare = ::sync};
+    HRFResultTable::printRatio("write the title through the queue", HRFCompare(contest, roundCount),
+                               1.3);
 }
 
 void measureStart(const HRFMeasuringPlace &place)
@@ -118,6 +158,7 @@ void measureStart(const HRFMeasuringPlace &place)
 void HRFMeasureAll(const HRFMeasuringPlace &place)
 {
     HRFResultTable::printHead();
-    for (const auto measure : {measureReading, measureShowing, measureWriting, measureStart})
+    for (const auto measure : {measureReading, measureShowing, measureWriting, measureImporting,
+                               measureWritingThroughQueue, measureStart})
         measure(place);
 }

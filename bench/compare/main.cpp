@@ -1,5 +1,7 @@
 #include "compare/HRFMeasurements.h"
 
+#include <QCoreApplication>
+
 #include <cstdio>
 #include <exception>
 
@@ -9,6 +11,7 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "Usage: bench_compare CORPUS SCRATCH_FOLDER\n");
         return 2;
     }
+    const QCoreApplication application(argc, argv);
     try {
         const auto program = std::filesystem::read_symlink("/proc/self/exe");
         HRFMeasureAll({argv[1], argv[2], program.parent_path()});

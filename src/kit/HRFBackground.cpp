@@ -47,3 +47,19 @@ void waitUntilIdle()
 }
 
 } // namespace HRFBackground
+
+HRFBackgroundGroup::~HRFBackgroundGroup()
+{
+    HRFMainThread::serveUntil([this] { return isIdle(); });
+}
+
+void HRFBackgroundGroup::run(std::function<void()> block)
+{
+    ++m_running;
+    HRFBackground::run([this, block = std::move(block)]() mutable {
+        HRFMainThread::runLoggingFailures(block);
+        block = nullptr;
+        --m_running; // the group may be gone from here on
+        HRFMainThread::wakeUp();
+    });
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <functional>
 
 /// Work off the main thread that mostly waits: for a queue, for an answer of the user.
@@ -12,3 +13,20 @@ void run(std::function<void()> block);
 void waitUntilIdle();
 
 } // namespace HRFBackground
+
+/// Background work of one owner.
+class HRFBackgroundGroup
+{
+public:
+    HRFBackgroundGroup() = default;
+    HRFBackgroundGroup(const HRFBackgroundGroup &) = delete;
+    HRFBackgroundGroup &operator=(const HRFBackgroundGroup &) = delete;
+    /// On the main thread; waits until every block is done, and serves blocks meanwhile.
+    ~HRFBackgroundGroup();
+
+    void run(std::function<void()> block);
+    bool isIdle() const { return m_running == 0; }
+
+private:
+    std::atomic<int> m_running = 0;
+};

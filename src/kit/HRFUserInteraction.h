@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -59,6 +60,8 @@ struct HRFProgressAppearance
 {
     QString title{};
     QString cancelTitle{};
+    /// What the cancel button does.
+    std::function<void()> cancel{};
 };
 
 /// A progress on display, for as long as this lives.

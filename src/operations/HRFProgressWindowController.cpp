@@ -36,9 +36,14 @@ void HRFProgressWindowController::showWindow()
 {
     HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     m_delay.stop();
-    if (!m_display)
-        m_display = HRFUserInteraction::current().showProgress(
-            m_progress, {.title = displayTitle(), .cancelTitle = m_cancelOperationTitle});
+    if (m_display)
+        return;
+    const auto cancelProgress = [progress = m_progress] { progress->cancel(); };
+    m_display = HRFUserInteraction::current().showProgress(
+        m_progress,
+        {.title = displayTitle(),
+         .cancelTitle = m_cancelOperationTitle,
+         .cancel = m_cancellationHandler ? m_cancellationHandler : cancelProgress});
 }
 
 void HRFProgressWindowController::showAsSheet(std::chrono::milliseconds afterDelay)

@@ -26,6 +26,11 @@ public:
     /// "Cancel" at first, and again after dismiss().
     QString cancelOperationTitle() const { return m_cancelOperationTitle; }
     void setCancelOperationTitle(const QString &title) { m_cancelOperationTitle = title; }
+    /// What is done when the user wants to cancel, instead of cancelling the progress.
+    void setCancellationHandler(std::function<void()> handler)
+    {
+        m_cancellationHandler = std::move(handler);
+    }
     /// Nobody can tell how much is left to do.
     bool isIndeterminate() const { return m_progress->totalUnitCount() <= 0; }
     bool isShown() const { return m_display != nullptr; }
@@ -41,6 +46,7 @@ private:
     QString m_title;
     bool m_titleShowsProcessing = false;
     QString m_cancelOperationTitle;
+    std::function<void()> m_cancellationHandler;
     QTimer m_delay;
     std::unique_ptr<HRFProgressDisplay> m_display;
 };

@@ -24,7 +24,8 @@ int lockFolder(const QString &path, bool waits)
 {
     constexpr mode_t mode = 0600;
     const QByteArray file = QFile::encodeName(path + u"/lock"_s);
-    const int descriptor = ::open(file.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, mode);
+    const int descriptor =
+        ::open(file.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, mode);
     if (descriptor < 0 || ::flock(descriptor, LOCK_EX | (waits ? 0 : LOCK_NB)) == 0)
         return descriptor;
     const int reason = errno;
@@ -98,11 +99,11 @@ HRFResult<std::unique_ptr<HRFDataFolder>> HRFDataFolder::take(const QString &pat
     QDir().mkpath(folder);
     const int lock = lockFolder(folder, false);
     if (lock < 0)
-        return std::unexpected(folderError(
-            folder,
-            errno == EWOULDBLOCK ? u"The folder is in use by another program."_s
-                                 : u"The folder cannot be used."_s,
-            errno));
+        return std::unexpected(folderError(folder,
+                                           errno == EWOULDBLOCK
+                                               ? u"The folder is in use by another program."_s
+                                               : u"The folder cannot be used."_s,
+                                           errno));
     QDir(folder + u"/windowSessions"_s).removeRecursively();
     return std::unique_ptr<HRFDataFolder>(new HRFDataFolder(folder, lock, false));
 }

@@ -45,9 +45,8 @@ QDateTime dateOf(const statx_timestamp &time)
 {
     constexpr qint64 msecsPerSecond = 1000;
     constexpr qint64 nsecsPerMsec = 1000000;
-    return QDateTime::fromMSecsSinceEpoch(time.tv_sec * msecsPerSecond
-                                              + time.tv_nsec / nsecsPerMsec,
-                                          Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(
+        time.tv_sec * msecsPerSecond + time.tv_nsec / nsecsPerMsec, Qt::UTC);
 }
 
 QString folderOf(const HRFFileReference &file)
@@ -65,11 +64,11 @@ std::optional<HRFFileFacts> HRFFileFacts::of(const HRFFileReference &file)
     if (::statx(AT_FDCWD, file.nativePath().constData(), AT_STATX_SYNC_AS_STAT, wanted, &status)
         != 0)
         return {};
-    return HRFFileFacts{
-        .filePath = folderOf(file),
-        .fileSize = status.stx_size,
-        .dateCreated = (status.stx_mask & STATX_BTIME) ? dateOf(status.stx_btime) : QDateTime(),
-        .dateModified = dateOf(status.stx_mtime)};
+    return HRFFileFacts{.filePath = folderOf(file),
+                        .fileSize = status.stx_size,
+                        .dateCreated = (status.stx_mask & STATX_BTIME) ? dateOf(status.stx_btime)
+                                                                       : QDateTime(),
+                        .dateModified = dateOf(status.stx_mtime)};
 }
 
 HRFFileSnapshot HRFFileSnapshot::of(const HRFTagEngine &engine)

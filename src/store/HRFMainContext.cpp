@@ -176,11 +176,11 @@ void HRFMainContext::registerUndo()
     std::set<std::pair<HRFObjectID, int>> seen;
     std::vector<HRFEditCommand::Change> changes;
     for (OldValue &old : std::exchange(m_oldValues, {}))
-        if (HRFManagedObject *changed = object(old.objectID);
-            changed && seen.emplace(old.objectID, old.property).second
+        if (HRFManagedObject *changed = object(old.objectID); changed
+            && seen.emplace(old.objectID, old.property).second
             && changed->value(old.property) != old.value)
-            changes.push_back({old.objectID, old.property, std::move(old.value),
-                               changed->value(old.property)});
+            changes.push_back(
+                {old.objectID, old.property, std::move(old.value), changed->value(old.property)});
     const QString name = std::exchange(m_actionName, {});
     if (!changes.empty())
         m_undoManager.push(new HRFEditCommand(*this, std::move(changes), name));
@@ -236,6 +236,17 @@ std::vector<HRFObjectID> HRFMainContext::objectIDs(const HRFEntityDescription &e
         if (object && &object->entity() == &entity)
             found.push_back(object->objectID());
     return found;
+}
+
+QSet<QString> HRFMainContext::texts(const HRFEntityDescription &entity, int property,
+                                    const std::unordered_set<HRFObjectID> &without) const
+{
+    const std::lock_guard lock(m_lock);
+    QSet<QString> texts;
+    for (const auto &object : m_objects)
+        if (object && &object->entity() == &entity && !without.contains(object->objectID()))
+            texts.insert(object->value(property).toString());
+    return texts;
 }
 
 void HRFMainContext::merge(HRFPrivateChanges changes)

@@ -50,6 +50,9 @@ public:
     bool copyObject(HRFObjectID objectID, const HRFEntityDescription *&entity,
                     HRFValues &values) const;
     std::vector<HRFObjectID> objectIDs(const HRFEntityDescription &entity) const;
+    /// The texts of a property in all objects but some.
+    QSet<QString> texts(const HRFEntityDescription &entity, int property,
+                        const std::unordered_set<HRFObjectID> &without) const;
 
     /// Takes over what a private context has changed: those properties alone, of objects that are
     /// still there. On the main thread.

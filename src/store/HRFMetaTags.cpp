@@ -35,8 +35,8 @@ QVariant HRFMetaTags::valueForKey(const QString &name) const
     const auto pair = pairs().constFind(name);
     if (pair == pairs().constEnd())
         return HRFManagedObject::valueForKey(name);
-    return std::ranges::none_of(
-        *pair, [this](const QString &key) { return valueForKey(key).isValid(); });
+    return std::ranges::none_of(*pair,
+                                [this](const QString &key) { return valueForKey(key).isValid(); });
 }
 
 QStringList HRFMetaTags::keysForValuesAffecting(const QString &name) const

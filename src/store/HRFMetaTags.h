@@ -19,7 +19,8 @@ public:
     QVariant valueForKey(const QString &name) const override;
     QStringList keysForValuesAffecting(const QString &name) const override;
 
-    /// Sets several tags. The null marker is no value; "artwork" sets the artwork facts of the file.
+    /// Sets several tags. The null marker is no value; "artwork" sets the artwork facts of the
+    /// file.
     void setValuesForKeysWithDictionary(const QHash<QString, QVariant> &values);
 
     /// Neither the number nor the total has a value.

@@ -90,8 +90,8 @@ HRFManagedObject *HRFObjectContext::newObjectForEntityName(const QString &entity
 void HRFObjectContext::deleteObject(HRFManagedObject &object)
 {
     for (const HRFRelationshipDescription &relationship : object.entity().relationships)
-        if (HRFManagedObject *other = relationship.cascades ? object.related(relationship.index)
-                                                            : nullptr)
+        if (HRFManagedObject *other =
+                relationship.cascades ? object.related(relationship.index) : nullptr)
             deleteObject(*other);
     remove(object);
 }

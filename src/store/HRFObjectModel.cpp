@@ -100,9 +100,8 @@ int HRFEntityDescription::propertyIndex(const QString &propertyName) const
 
 const QString &HRFEntityDescription::propertyName(int property) const
 {
-    return isRelationship(property)
-        ? relationships[std::size_t(property) - attributes.size()].name
-        : attributes[std::size_t(property)].name;
+    return isRelationship(property) ? relationships[std::size_t(property) - attributes.size()].name
+                                    : attributes[std::size_t(property)].name;
 }
 
 QString HRFEntityDescription::localizedNameForPropertyKey(const QString &attributeName) const
@@ -155,8 +154,8 @@ HRFResult<std::shared_ptr<const HRFObjectModel>> HRFObjectModel::fromJSON(const 
             relationship.destination = model->entityNamed(relationship.destinationName);
             if (!relationship.destination
                 || !relationship.destination->relationshipNamed(relationship.inverseName))
-                return std::unexpected(modelError(
-                    u"The relationship “%1” leads nowhere."_s.arg(relationship.name)));
+                return std::unexpected(
+                    modelError(u"The relationship “%1” leads nowhere."_s.arg(relationship.name)));
         }
     return model;
 }

@@ -65,7 +65,8 @@ public:
     /// "localization": {key: text}}
     [[nodiscard]] static HRFResult<std::shared_ptr<const HRFObjectModel>>
     fromFile(const QString &path);
-    /// The model in the application's resource with the name, read once; nullptr when there is none.
+    /// The model in the application's resource with the name, read once; nullptr when there is
+    /// none.
     static std::shared_ptr<const HRFObjectModel> named(const QString &name);
     [[nodiscard]] static HRFResult<std::shared_ptr<const HRFObjectModel>>
     fromJSON(const QByteArray &json);

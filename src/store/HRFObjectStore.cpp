@@ -86,8 +86,9 @@ HRFError storeError(const SQLite::Exception &failure, const QString &path)
 } // namespace
 
 HRFObjectStore::HRFObjectStore(const QString &path, std::shared_ptr<const HRFObjectModel> model)
-    : m_path(path), m_model(std::move(model)),
-      m_database(QFile::encodeName(path).toStdString(),
+    : m_path(path)
+    , m_model(std::move(model))
+    , m_database(QFile::encodeName(path).toStdString(),
                  SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
 {
 }
@@ -157,8 +158,9 @@ void HRFObjectStore::migrateTable(const HRFEntityDescription &entity, Migrates m
 void HRFObjectStore::dropUnknownTables()
 {
     QStringList unknown;
-    SQLite::Statement query(m_database, "SELECT name FROM sqlite_schema WHERE type = 'table' AND "
-                                        "name NOT LIKE 'sqlite_%'");
+    SQLite::Statement query(m_database,
+                            "SELECT name FROM sqlite_schema WHERE type = 'table' AND "
+                            "name NOT LIKE 'sqlite_%'");
     while (query.executeStep())
         if (const auto name = QString::fromUtf8(query.getColumn(0).getText());
             !m_model->entityNamed(name))
@@ -177,13 +179,14 @@ void HRFObjectStore::readRows()
             columns += ", " + quoted(entity->propertyName(property));
             types.push_back(columnType(*entity, property));
         }
-        SQLite::Statement query(m_database, "SELECT " + columns + " FROM " + quoted(entity->name)
-                                    + " ORDER BY id");
+        SQLite::Statement query(
+            m_database, "SELECT " + columns + " FROM " + quoted(entity->name) + " ORDER BY id");
         while (query.executeStep()) {
             HRFValues values;
             for (int property = 0; property < entity->propertyCount(); ++property)
-                values.setValue(property, columnValue(query.getColumn(property + 1),
-                                                      types[std::size_t(property)]));
+                values.setValue(
+                    property,
+                    columnValue(query.getColumn(property + 1), types[std::size_t(property)]));
             const HRFObjectID objectID = query.getColumn(0).getInt64();
             m_nextObjectID = std::max(m_nextObjectID.load(), objectID + 1);
             m_rows.push_back({entity.get(), objectID, std::move(values)});
@@ -200,8 +203,9 @@ void HRFObjectStore::prepareStatements()
             columns += ", " + quoted(entity->propertyName(property));
             parameters += ", ?";
         }
-        m_storeStatements.emplace_back(m_database, "INSERT OR REPLACE INTO " + quoted(entity->name)
-                                           + " (" + columns + ") VALUES (" + parameters + ')');
+        m_storeStatements.emplace_back(m_database,
+                                       "INSERT OR REPLACE INTO " + quoted(entity->name) + " ("
+                                           + columns + ") VALUES (" + parameters + ')');
         m_deleteStatements.emplace_back(m_database,
                                         "DELETE FROM " + quoted(entity->name) + " WHERE id = ?");
     }

@@ -6,7 +6,6 @@
 #include <QSet>
 
 #include <SQLiteCpp/SQLiteCpp.h>
-
 #include <atomic>
 #include <memory>
 #include <mutex>

@@ -92,8 +92,8 @@ HRFPersistentStoreManager::newStoreCoordinatorWithURL(const QString &url)
 {
     using Migrates = HRFObjectStore::Migrates;
     HRFAssert(m_model != nullptr, "ERROR: Cannot generate persistent store as no model exist");
-    const auto durability = purgeOnQuit() ? HRFObjectStore::Durability::Session
-                                          : HRFObjectStore::Durability::Lasting;
+    const auto durability =
+        purgeOnQuit() ? HRFObjectStore::Durability::Session : HRFObjectStore::Durability::Lasting;
     m_storeWasReset = !QFile::exists(url);
     auto store = HRFObjectStore::open(url, m_model, Migrates::Yes, durability);
     if (!store) {

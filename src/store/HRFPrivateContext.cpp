@@ -137,6 +137,20 @@ std::vector<HRFManagedObject *> HRFPrivateContext::fetch(const QString &entityNa
     return found;
 }
 
+QSet<QString> HRFPrivateContext::fetchTexts(const QString &entityName, const QString &attributeName)
+{
+    requireTurn();
+    const HRFEntityDescription &entity = entityNamed(entityName);
+    const int property = entity.propertyIndex(attributeName);
+    QSet<QString> texts;
+    if (const auto parent = m_parent.lock())
+        texts = parent->texts(entity, property, m_deleted);
+    for (const HRFObjectID objectID : m_inserted)
+        if (const HRFManagedObject *inserted = object(objectID); &inserted->entity() == &entity)
+            texts.insert(inserted->value(property).toString());
+    return texts;
+}
+
 HRFManagedObject &HRFPrivateContext::insert(const HRFEntityDescription &entity)
 {
     requireTurn();

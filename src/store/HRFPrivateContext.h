@@ -2,6 +2,8 @@
 
 #include "store/HRFObjectContext.h"
 
+#include <QSet>
+
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -40,14 +42,16 @@ public:
 
     /// Runs a block on another thread, after those submitted before it.
     void performBlock(std::function<void()> block);
-    /// Runs a block on the calling thread as soon as no other block runs. On the main thread, blocks
-    /// for it are served while it waits. A block may call this again.
+    /// Runs a block on the calling thread as soon as no other block runs. On the main thread,
+    /// blocks for it are served while it waits. A block may call this again.
     void performBlockAndWait(const std::function<void()> &block);
 
     using HRFObjectContext::fetch;
     using HRFObjectContext::object;
     HRFManagedObject *object(HRFObjectID objectID) override;
     std::vector<HRFManagedObject *> fetch(const QString &entityName) override;
+    /// The texts of an attribute in all objects of an entity.
+    QSet<QString> fetchTexts(const QString &entityName, const QString &attributeName);
     bool hasChanges() const override;
     /// Waits for the main thread. Every object of this context is gone afterwards.
     [[nodiscard]] HRFResult<void> save() override;

@@ -24,8 +24,8 @@ protected:
         : context(HRFObjectModel::named(u"Lirra"_s),
                   *HRFObjectStore::open(path(u"list.sqlite"_s), HRFObjectModel::named(u"Lirra"_s),
                                         HRFObjectStore::Migrates::Yes,
-                                        HRFObjectStore::Durability::Session)),
-          file(*context.newObject<HRFMetaFile>())
+                                        HRFObjectStore::Durability::Session))
+        , file(*context.newObject<HRFMetaFile>())
     {
     }
 
@@ -58,8 +58,8 @@ TEST_F(HRFMetaFileTest, PairsAreNilWithoutNumberAndTotal)
     tags.setValueForKey(3, u"trackNumber"_s);
     EXPECT_FALSE(tags.trackNumberAndTotalAreNil());
     EXPECT_TRUE(tags.discNumberAndTotalAreNil());
-    const HRFObjectChange change{&tags, HRFPropertyBit(tags.entity().propertyIndex(
-                                            u"trackNumber"_s))};
+    const HRFObjectChange change{&tags,
+                                 HRFPropertyBit(tags.entity().propertyIndex(u"trackNumber"_s))};
     EXPECT_TRUE(change.affects(u"trackNumberAndTotalAreNil"_s));
     EXPECT_FALSE(change.affects(u"discNumberAndTotalAreNil"_s));
 }
@@ -77,9 +77,8 @@ TEST_F(HRFMetaFileTest, EngineValuesReachTheRecord)
         ASSERT_TRUE(engine) << fixture;
         file.setFileURL(*HRFFileReferenceTable::referenceURLForFile(reference));
         file.importValuesFromEngine(engine->get());
-        for (const HRFManagedObject *part :
-             {static_cast<HRFManagedObject *>(&file.tags()),
-              static_cast<HRFManagedObject *>(&file.properties())})
+        for (const HRFManagedObject *part : {static_cast<HRFManagedObject *>(&file.tags()),
+                                             static_cast<HRFManagedObject *>(&file.properties())})
             for (const HRFAttributeDescription &attribute : part->entity().attributes) {
                 const auto key = HRFTagKeyForName(attribute.name.toStdString());
                 ASSERT_TRUE(key) << attribute.name.toStdString();
@@ -102,8 +101,8 @@ TEST_F(HRFMetaFileTest, BulkUpdatesKnowArtworkAndTheNullMarker)
     EXPECT_EQ(file.artworkProperties().valueForKey(u"imageType"_s), u"PNG"_s);
     EXPECT_EQ(file.artworkProperties().valueForKey(u"imageDataSize"_s), HRFSamplePNG.size());
     EXPECT_EQ(file.artworkMD5().size(), 32);
-    file.tags().setValuesForKeysWithDictionary({{u"artwork"_s, QVariant::fromValue(nullptr)},
-                                                {u"title"_s, QVariant::fromValue(nullptr)}});
+    file.tags().setValuesForKeysWithDictionary(
+        {{u"artwork"_s, QVariant::fromValue(nullptr)}, {u"title"_s, QVariant::fromValue(nullptr)}});
     for (const HRFAttributeDescription &attribute : file.artworkProperties().entity().attributes)
         EXPECT_FALSE(file.artworkProperties().value(attribute.index).isValid());
     EXPECT_EQ(file.artworkMD5(), QString());

@@ -24,9 +24,9 @@ protected:
     HRFObjectContextTest()
     {
         const auto model = HRFObjectModel::named(u"Lirra"_s);
-        auto store = HRFObjectStore::open(path(u"list.sqlite"_s), model,
-                                          HRFObjectStore::Migrates::Yes,
-                                          HRFObjectStore::Durability::Session);
+        auto store =
+            HRFObjectStore::open(path(u"list.sqlite"_s), model, HRFObjectStore::Migrates::Yes,
+                                 HRFObjectStore::Durability::Session);
         main = std::make_shared<HRFMainContext>(model, *store);
         background = std::make_shared<HRFPrivateContext>(main);
         QObject::connect(main.get(), &HRFMainContext::objectsDidChange,
@@ -42,12 +42,12 @@ protected:
             updates.append(change.object->entity().name + u":"_s + keys.join(u','));
         }
         updates.sort();
-        events.push_back(u"%1 +%2 -%3 %4"_s
-                             .arg(changes.isFromBackground ? u"background"_s : u"edit"_s)
-                             .arg(changes.inserted.size())
-                             .arg(changes.deleted.size())
-                             .arg(updates.join(u' '))
-                             .trimmed());
+        events.push_back(
+            u"%1 +%2 -%3 %4"_s.arg(changes.isFromBackground ? u"background"_s : u"edit"_s)
+                .arg(changes.inserted.size())
+                .arg(changes.deleted.size())
+                .arg(updates.join(u' '))
+                .trimmed());
     }
 
     /// Changes files on another thread.
@@ -150,8 +150,9 @@ TEST_F(HRFObjectContextTest, ABackgroundSaveTouchesNothingButWhatItChanged)
             },
             HRFMainThread::Wait::Yes);
     });
-    EXPECT_THAT(events, ElementsAre(u"edit +0 -5 MetaTags:title"_s,
-                                    u"background +0 -0 MetaFile:tagSize MetaTags:genre"_s));
+    EXPECT_THAT(events,
+                ElementsAre(u"edit +0 -5 MetaTags:title"_s,
+                            u"background +0 -0 MetaFile:tagSize MetaTags:genre"_s));
     EXPECT_EQ(title(file), u"Edited"_s);
     EXPECT_EQ(main->object(doomed), nullptr);
     EXPECT_THAT(main->fetch(u"SystemFile"_s), SizeIs(1));
@@ -212,15 +213,13 @@ TEST_F(HRFObjectContextTest, BlocksRunInTheOrderInWhichTheyCame)
 TEST_F(HRFObjectContextTest, FailuresReachTheOneWhoWaits)
 {
     std::thread([] {
-        EXPECT_THROW(HRFMainThread::run([] { throw std::runtime_error("no"); },
-                                        HRFMainThread::Wait::Yes),
-                     std::runtime_error);
+        EXPECT_THROW(
+            HRFMainThread::run([] { throw std::runtime_error("no"); }, HRFMainThread::Wait::Yes),
+            std::runtime_error);
         HRFMainThread::wakeUp();
     }).detach();
     bool hasRun = false;
-    std::thread last([&] {
-        HRFMainThread::run([&] { hasRun = true; }, HRFMainThread::Wait::Yes);
-    });
+    std::thread last([&] { HRFMainThread::run([&] { hasRun = true; }, HRFMainThread::Wait::Yes); });
     HRFMainThread::serveUntil([&] { return hasRun; });
     last.join();
 }

@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-
 #include <gmock/gmock.h>
 
 #include <csignal>

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QTemporaryDir>
 #include <QTest>
-
 #include <gtest/gtest.h>
 
 /// For tests that need an event loop, and a folder of their own.

@@ -1,0 +1,230 @@
+#include "document/HRFMetaFileManager.h"
+#include "document/HRFReadAhead.h"
+#include "kit/HRFFileReferenceTable.h"
+#include "kit/HRFMainThread.h"
+#include "kit/HRFUserDefaults.h"
+#include "kit/HRFUserInteraction.h"
+#include "operations/HRFErrorSolver.h"
+#include "operations/HRFProgressWindowController.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFUndoSuspension.h"
+#include "tags/HRFTagEngine.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using Wait = HRFMainThread::Wait;
+
+namespace {
+
+QSet<QString> urlsOf(const std::vector<HRFFoundFile> &files)
+{
+    QSet<QString> urls;
+    for (const HRFFoundFile &file : files)
+        urls.insert(file.fileURL);
+    return urls;
+}
+
+} // namespace
+
+bool HRFMetaFileManager::parseFiles(const std::vector<HRFFileReference> &paths)
+{
+    return importFoundFiles(HRFFileWalker::find(paths, [] { return false; }));
+}
+
+bool HRFMetaFileManager::importFoundFiles(HRFFoundFiles found)
+{
+    if (!found.problems.empty())
+        Q_EMIT filesWereNotImported(found.problems);
+    if (found.files.empty())
+        return false;
+    m_imports.run([this, files = std::move(found.files)] { runImport(files); });
+    return true;
+}
+
+void HRFMetaFileManager::runImport(const std::vector<HRFFoundFile> &files)
+{
+    QSet<QString> imported;
+    {
+        const HRFUndoSuspension noUndo(managedObjectContext());
+        if (importFiles(files, imported))
+            HRFMainThread::run([this] { saveChanges(); }, Wait::Yes);
+    }
+    HRFMainThread::run(
+        [&] {
+            Q_EMIT importDidEnd({});
+            if (!imported.isEmpty()
+                && HRFUserDefaults::standard().boolForKey(u"lirra.general.selectsInserted"_s))
+                Q_EMIT importDidEnd(imported);
+        },
+        Wait::Yes);
+}
+
+bool HRFMetaFileManager::importFiles(const std::vector<HRFFoundFile> &files,
+                                     QSet<QString> &imported)
+{
+    const std::vector<HRFFoundFile> newFiles = filesNotInList(files);
+    if (newFiles.empty()) {
+        HRFMainThread::run([&] { Q_EMIT importDidEnd(urlsOf(files)); }, Wait::Yes);
+        return false;
+    }
+    HRFMainThread::run([&] { m_importProgress = beginProgress(newFiles.size()); }, Wait::Yes);
+    const std::shared_ptr<HRFProgress> progress = m_importProgress;
+    const Operations operations = makeOperations(newFiles);
+    read(operations);
+    if (progress->isCancelled())
+        discardRecords(operations);
+    HRFMainThread::run([this] { endProgress(); }, Wait::Yes);
+    if (progress->isCancelled())
+        return false;
+    const QSet<QString> succeeded = sortOutcomes(operations);
+    if (progress->completedUnitCount() == 0 || !saveBackgroundContextAndPresentErrors())
+        return false;
+    imported = succeeded;
+    return true;
+}
+
+std::vector<HRFFoundFile>
+HRFMetaFileManager::filesNotInList(const std::vector<HRFFoundFile> &files) const
+{
+    QSet<QString> present;
+    m_backgroundContext->performBlockAndWait([&] {
+        present = m_backgroundContext->fetchTexts(HRFMetaFile::entityName(), u"fileURL"_s);
+    });
+    std::vector<HRFFoundFile> missing;
+    std::ranges::copy_if(files, std::back_inserter(missing),
+                         [&](const HRFFoundFile &file) { return !present.contains(file.fileURL); });
+    return missing;
+}
+
+std::shared_ptr<HRFProgress> HRFMetaFileManager::beginProgress(std::size_t fileCount)
+{
+    constexpr std::size_t quickImport = 100;
+    constexpr std::chrono::milliseconds delay(1000);
+    const auto progress = std::make_shared<HRFProgress>(qlonglong(fileCount));
+    progress->setLocalizedDescription(tr("Reading Metadata…"));
+    progress->setCancellationHandler([this] { m_fileReadQueue.cancelAllOperations(); });
+    m_progressWindow = std::make_unique<HRFProgressWindowController>(progress);
+    m_progressWindow->setTitleShowsProcessing(false);
+    m_progressWindow->showAsSheet(fileCount <= quickImport ? delay : std::chrono::milliseconds());
+    return progress;
+}
+
+void HRFMetaFileManager::endProgress()
+{
+    m_progressWindow->dismiss();
+    m_progressWindow.reset();
+    m_importProgress.reset();
+}
+
+HRFMetaFileManager::Operations
+HRFMetaFileManager::makeOperations(const std::vector<HRFFoundFile> &files) const
+{
+    QHash<QString, std::vector<std::shared_ptr<HRFOperation>>> pending;
+    for (const auto &operation : fileOperationQueue().operations())
+        if (const auto onFile = std::dynamic_pointer_cast<HRFFileOperation>(operation))
+            pending[onFile->fileKey()].push_back(operation);
+    const auto batch = std::make_shared<const HRFImportBatch>(
+        m_backgroundContext, m_importProgress, m_inspector, [this] {
+            const_cast<HRFMetaFileManager *>(this)->saveBackgroundContextAndPresentErrors();
+        });
+    Operations operations;
+    for (const HRFFoundFile &file : files) {
+        if (m_importProgress->isCancelled())
+            break;
+        auto operation = std::make_shared<HRFFileImportOperation>(
+            file.file, file.fileURL, qlonglong(operations.size()), batch);
+        operation->setLast(operations.size() + 1 == files.size());
+        for (const auto &earlier : pending.value(file.fileURL))
+            operation->waitFor(earlier);
+        operations.push_back(std::move(operation));
+    }
+    return operations;
+}
+
+void HRFMetaFileManager::read(const Operations &operations)
+{
+    const HRFReadAhead readAhead(operations);
+    m_fileReadQueue.addOperations({operations.begin(), operations.end()}, true);
+}
+
+/// An interrupted import leaves nothing behind.
+void HRFMetaFileManager::discardRecords(const Operations &operations)
+{
+    m_backgroundContext->performBlockAndWait([&] {
+        for (const auto &operation : operations)
+            if (HRFManagedObject *record = operation->succeeded()
+                    ? m_backgroundContext->object(operation->objectID())
+                    : nullptr)
+                m_backgroundContext->deleteObject(*record);
+        saveBackgroundContextAndPresentErrors();
+    });
+}
+
+bool HRFMetaFileManager::saveBackgroundContextAndPresentErrors()
+{
+    HRFResult<void> saved;
+    m_backgroundContext->performBlockAndWait([&] {
+        saved = m_backgroundContext->save();
+        if (!saved)
+            m_backgroundContext->rollback();
+    });
+    if (saved)
+        return true;
+    HRFMainThread::run(
+        [error = saved.error()] {
+            HRFUserInteraction::current().presentError(
+                {.domain = error.domain,
+                 .code = error.code,
+                 .description = tr("Files couldn't be opened because of core data related issues."),
+                 .underlying = std::make_shared<HRFError>(error)});
+        },
+        Wait::Yes);
+    return false;
+}
+
+/// Reports the files that could not be read; answers those that could.
+QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations)
+{
+    QSet<QString> succeeded;
+    std::vector<HRFFileProblem> problems;
+    std::vector<HRFFileReference> invalid;
+    for (const auto &operation : operations) {
+        if (operation->succeeded())
+            succeeded.insert(operation->referenceURL());
+        const auto error = operation->error();
+        if (!error)
+            continue;
+        problems.push_back({operation->fileURL(), *error});
+        if (error->code == HRFTagEngineErrorCode::unreadable)
+            invalid.push_back(operation->fileURL());
+    }
+    HRFMainThread::run(
+        [self = QPointer(this), problems, invalid] {
+            if (self && !problems.empty())
+                Q_EMIT self->filesWereNotImported(problems);
+            if (self && !invalid.empty())
+                showInvalidFilesError(invalid);
+        },
+        Wait::No);
+    return succeeded;
+}
+
+void HRFMetaFileManager::showInvalidFilesError(const std::vector<HRFFileReference> &files)
+{
+    const HRFError error{.domain = QString::fromLatin1(HRFTagEngineErrorDomain),
+                         .code = HRFTagEngineErrorCode::unreadable,
+                         .description = tr("Could not add %1 invalid file(s).").arg(files.size()),
+                         .recoverySuggestion =
+                             tr("You may want to try re-encoding these audio files.")};
+    const auto solver = HRFErrorSolver::solverWithError(error);
+    solver->addRecoveryOptionWithLocalizedTitle(
+        tr("OK"), [] { return false; }, HRFAnswerRole::Continue);
+    solver->addRecoveryOptionWithLocalizedTitle(tr("Show Files"), [files] {
+        HRFUserInteraction::current().revealFiles(files);
+        return false;
+    });
+    HRFUserInteraction::current().presentError(solver->error());
+}

@@ -1,0 +1,143 @@
+#include "document/HRFMetaFileManager.h"
+
+#include "document/HRFPlaylist.h"
+#include "kit/HRFAssert.h"
+#include "kit/HRFMainThread.h"
+#include "operations/HRFProgressWindowController.h"
+#include "operations/HRFTagWriteOperation.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
+#include "store/HRFSystemFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUuid>
+
+using namespace Qt::StringLiterals;
+
+HRFMetaFileManager::HRFMetaFileManager(HRFPlaylist &document)
+    : m_document(document)
+    , m_databaseName(
+          u"windowSessions/%1.sqlite"_s.arg(QUuid::createUuid().toString(QUuid::WithoutBraces)))
+{
+    openStore();
+    m_backgroundContext = newPrivateContext();
+    m_fileManager.setFileExistsRecovery(HRFFileExistsRecovery::KeepBoth);
+    connect(managedObjectContext().get(), &HRFMainContext::objectsDidChange, this,
+            &HRFMetaFileManager::contextDidChange);
+}
+
+HRFMetaFileManager::~HRFMetaFileManager()
+{
+    if (m_importProgress)
+        m_importProgress->cancel();
+}
+
+HRFOperationQueue &HRFMetaFileManager::fileOperationQueue()
+{
+    static HRFOperationQueue queue;
+    return queue;
+}
+
+QString HRFMetaFileManager::modelName() const
+{
+    return u"Lirra"_s;
+}
+
+QString HRFMetaFileManager::databaseName() const
+{
+    return m_databaseName;
+}
+
+void HRFMetaFileManager::resetDatabase()
+{
+    HRFRequire(databaseName().contains(u'/'), "[databaseName containsString:@\"/\"]");
+    static bool hasWiped = false;
+    if (!std::exchange(hasWiped, true))
+        QFileInfo(storeURL()).dir().removeRecursively();
+}
+
+void HRFMetaFileManager::contextDidChange(const HRFContextChanges &changes)
+{
+    if (changes.isFromBackground)
+        return; // the files say so already
+    std::vector<HRFObjectChange> tags;
+    std::vector<HRFMetaFile *> renamed;
+    for (const HRFObjectChange &change : changes.updated) {
+        if (change.object->entity().name == HRFMetaTags::entityName())
+            tags.push_back(change);
+        const auto *info = dynamic_cast<HRFSystemFile *>(change.object);
+        if (!info || !change.affects(u"fileName"_s))
+            continue;
+        const auto file = info->parentMetaFile()->url();
+        if (file && file->displayName() != info->fileName())
+            renamed.push_back(info->parentMetaFile());
+    }
+    updateTags(tags);
+    if (!m_isTakingBackRename)
+        renameFiles(renamed);
+}
+
+void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
+{
+    if (changes.empty())
+        return;
+    m_writeProgress = std::make_shared<HRFProgress>(qlonglong(changes.size()));
+    m_writeProgress->setLocalizedDescription(tr("Writing Metadata…"));
+    const auto answers = std::make_shared<HRFAppliedAnswers>();
+    std::vector<std::shared_ptr<HRFTagWriteOperation>> operations;
+    for (const HRFObjectChange &change : changes) {
+        const HRFMetaFile &file = *static_cast<HRFMetaTags *>(change.object)->parentMetaFile();
+        auto operation = HRFFileOperation::operationWithFile<HRFTagWriteOperation>(file);
+        operation->setChangedValues(change.changedValues());
+        operation->setAppliedAnswers(answers);
+        operation->setProgress(m_writeProgress);
+        operation->setLast(operations.size() + 1 == changes.size());
+        operations.push_back(std::move(operation));
+    }
+    // Operations know their progress only as long as somebody holds it.
+    m_document.runOperations({operations.begin(), operations.end()},
+                             [progress = m_writeProgress] { static_cast<void>(progress); });
+}
+
+void HRFMetaFileManager::renameFiles(const std::vector<HRFMetaFile *> &files)
+{
+    QHash<HRFObjectID, QString> names;
+    for (const HRFMetaFile *file : files) {
+        const auto source = file->url();
+        if (!source)
+            continue;
+        const QByteArray folder =
+            source->nativePath().first(source->nativePath().lastIndexOf('/') + 1);
+        const auto destination = HRFFileReference::fromNativePath(
+            folder + QFile::encodeName(file->fileInfo().fileName()));
+        const auto moved = m_fileManager.moveItemAtURL(*source, destination);
+        if (!moved) {
+            takeBackRename(moved.error());
+            names.insert(file->objectID(), source->displayName());
+            break;
+        }
+        names.insert(file->objectID(), moved->displayName());
+    }
+    if (names.isEmpty())
+        return;
+    m_document.performBlockInBackgroundContext([names](HRFPrivateContext &context) {
+        for (auto entry = names.begin(); entry != names.end(); ++entry)
+            if (auto *file = context.object<HRFMetaFile>(entry.key()))
+                file->fileInfo().setFileName(*entry);
+    });
+}
+
+/// What asked for the rename is undone, where it can be.
+void HRFMetaFileManager::takeBackRename(const HRFError &error)
+{
+    HRFMainContext &context = *managedObjectContext();
+    context.processPendingChanges();
+    m_isTakingBackRename = true;
+    if (context.isUndoRegistrationEnabled() && !context.isUndoingOrRedoing())
+        context.undoManager().undo();
+    m_isTakingBackRename = false;
+    HRFError presented = error;
+    presented.recoverySuggestion = tr("The operation was cancelled due to unresolved errors.");
+    HRFUserInteraction::current().presentError(presented);
+}

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "document/HRFFileImportOperation.h"
+#include "document/HRFFileWalker.h"
+#include "kit/HRFBackground.h"
+#include "operations/HRFFileManager.h"
+#include "operations/HRFOperationQueue.h"
+#include "store/HRFPersistentStoreManager.h"
+
+#include <QSet>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class HRFPlaylist;
+class HRFProgressWindowController;
+
+/// Turns paths into the file records of a list, and edits of the records into work on the files.
+///
+/// For the main thread, but for the parts of an import that run in the background.
+class HRFMetaFileManager : public HRFPersistentStoreManager
+{
+    Q_OBJECT
+public:
+    explicit HRFMetaFileManager(HRFPlaylist &document);
+    /// Cancels a running import and waits for it.
+    ~HRFMetaFileManager() override;
+
+    /// All writes, strips and moves of all lists, one at a time.
+    static HRFOperationQueue &fileOperationQueue();
+
+    QString modelName() const override;
+    /// A session file of this list's own.
+    QString databaseName() const override;
+    bool purgeOnQuit() const override { return true; }
+    /// Deletes the sessions of all lists, once in the life of the process.
+    void resetDatabase() override;
+
+    /// For imports and for refreshes after writes.
+    const std::shared_ptr<HRFPrivateContext> &backgroundContext() const
+    {
+        return m_backgroundContext;
+    }
+    HRFFileManager &fileManager() { return m_fileManager; }
+    HRFWorkQueue &fileReadQueue() { return m_fileReadQueue; }
+    /// That of the latest batch of writes; nullptr before the first.
+    const std::shared_ptr<HRFProgress> &writeProgress() const { return m_writeProgress; }
+    /// That of the running import; nullptr when none runs.
+    const std::shared_ptr<HRFProgress> &importProgress() const { return m_importProgress; }
+
+    /// Looks at the engine of each file that is imported from now on. Called on reading threads.
+    void setEngineInspector(HRFEngineInspector inspector) { m_inspector = std::move(inspector); }
+
+    /// Adds files, and those in folders, that are not in the list yet.
+    /// @return whether there is any audio file among them; the import goes on in the background
+    /// then
+    bool parseFiles(const std::vector<HRFFileReference> &paths);
+    /// The same for files that were found before.
+    bool importFoundFiles(HRFFoundFiles found);
+
+Q_SIGNALS:
+    /// An import, or the attempt at one, has ended
+    /// ("com.harrowfield.lirra.filemanager.import.end").
+    /// @param fileURLs the files to select, by reference URL; nothing when the selection stays
+    void importDidEnd(const std::optional<QSet<QString>> &fileURLs);
+    /// Paths that an import could not take; sent before its end.
+    void filesWereNotImported(const std::vector<HRFFileProblem> &problems);
+
+private:
+    using Operations = std::vector<std::shared_ptr<HRFFileImportOperation>>;
+
+    // In the background:
+    void runImport(const std::vector<HRFFoundFile> &files);
+    bool importFiles(const std::vector<HRFFoundFile> &files, QSet<QString> &imported);
+    std::vector<HRFFoundFile> filesNotInList(const std::vector<HRFFoundFile> &files) const;
+    Operations makeOperations(const std::vector<HRFFoundFile> &files) const;
+    void read(const Operations &operations);
+    void discardRecords(const Operations &operations);
+    bool saveBackgroundContextAndPresentErrors();
+    QSet<QString> sortOutcomes(const Operations &operations);
+
+    // On the main thread:
+    std::shared_ptr<HRFProgress> beginProgress(std::size_t fileCount);
+    void endProgress();
+    static void showInvalidFilesError(const std::vector<HRFFileReference> &files);
+    void contextDidChange(const HRFContextChanges &changes);
+    void updateTags(const std::vector<HRFObjectChange> &changes);
+    void renameFiles(const std::vector<HRFMetaFile *> &files);
+    void takeBackRename(const HRFError &error);
+
+    HRFPlaylist &m_document;
+    const QString m_databaseName;
+    std::shared_ptr<HRFPrivateContext> m_backgroundContext;
+    HRFFileManager m_fileManager;
+    HRFWorkQueue m_fileReadQueue;
+    HRFEngineInspector m_inspector;
+    std::shared_ptr<HRFProgress> m_importProgress;
+    std::shared_ptr<HRFProgress> m_writeProgress;
+    std::unique_ptr<HRFProgressWindowController> m_progressWindow;
+    bool m_isTakingBackRename = false;
+    HRFBackgroundGroup m_imports;
+};

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "document/HRFArrayController.h"
+#include "document/HRFMetaFileManager.h"
+#include "document/HRFPlaylistWindow.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class HRFDocumentController;
+class HRFTagWriteOperation;
+
+/// How the progress of a batch is shown.
+enum class HRFProgressDisplayMode {
+    AfterDelay, ///< when the batch lasts
+    AtOnce, ///< and a notification at the end
+    None,
+};
+
+/// The document behind one list: the records of its files, which of them are shown and selected,
+/// and the commands on them. It is never saved; its store goes when the program ends.
+///
+/// All members are for the main thread, but performBlockInBackgroundContext.
+class HRFPlaylist : public QObject
+{
+    Q_OBJECT
+public:
+    using Operations = std::vector<std::shared_ptr<HRFFileOperation>>;
+
+    explicit HRFPlaylist(HRFDocumentController &documents);
+    ~HRFPlaylist() override;
+
+    /// The current list, or the first open one; nullptr when none is open.
+    static HRFPlaylist *currentPlaylist();
+
+    HRFMetaFileManager &fileManager() { return *m_fileManager; }
+    HRFMainContext &managedObjectContext() const { return *m_fileManager->managedObjectContext(); }
+    HRFArrayController &fileController() { return *m_fileController; }
+    std::vector<HRFMetaFile *> selectedFiles() const;
+    std::vector<HRFMetaFile *> arrangedFiles() const;
+    QUndoStack &undoManager() const { return managedObjectContext().undoManager(); }
+
+    /// The window must outlive the list; nullptr for none.
+    void setWindow(HRFPlaylistWindow *window) { m_window = window; }
+
+    bool shouldClose() const { return m_shouldClose; }
+    void setShouldClose(bool shouldClose) { m_shouldClose = shouldClose; }
+    /// Closes the list, which is destroyed then, unless it is the last one and the program goes on.
+    void close();
+
+    void add();
+    /// Answers whether there was anything to import; the import goes on in the background.
+    bool importFilesAtPaths(const std::vector<HRFFileReference> &paths);
+    bool importFileAtPath(const HRFFileReference &path);
+
+    /// Takes the selected, or all shown, files out of the list. The files themselves stay.
+    void remove();
+    void clear();
+    /// Asks, then removes all tags of the selected files.
+    void strip();
+    void stripTags();
+
+    /// Whether a command ("strip:") can be carried out now.
+    bool validateUserInterfaceItem(const QString &command) const;
+
+    /// Changes records by a block that works on the background context; from any thread. The
+    /// changes are no edits, and are saved when the call returns, or when whenDone is called, on
+    /// the main thread.
+    void performBlockInBackgroundContext(std::function<void(HRFPrivateContext &)> block,
+                                         bool wait = false, std::function<void()> whenDone = {});
+    void performBlockInBackgroundContextAndWait(std::function<void(HRFPrivateContext &)> block)
+    {
+        performBlockInBackgroundContext(std::move(block), true);
+    }
+
+    using OperationMaker =
+        std::function<std::shared_ptr<HRFTagWriteOperation>(HRFMetaFile &, std::size_t index)>;
+    /// Queues the operations that a block makes for files; files for which it makes none are left
+    /// out.
+    bool enqueueOperationsForFiles(const std::vector<HRFMetaFile *> &files,
+                                   const std::shared_ptr<HRFProgress> &progress,
+                                   HRFProgressDisplayMode mode, const OperationMaker &block);
+    /// Queues operations, and refreshes the records of those that succeed.
+    void runOperations(const Operations &operations, std::function<void()> whenDone = {});
+    /// Refreshes the records of operations that have succeeded.
+    void handleCompletedFileWriteOperations(const Operations &operations,
+                                            std::function<void()> whenDone = {});
+
+Q_SIGNALS:
+    /// Operations on files of this list are done, well or not, and the records say so.
+    void fileOperationsDidEnd(const HRFPlaylist::Operations &operations);
+
+private:
+    void fileManagerDidImport(const std::optional<QSet<QString>> &fileURLs);
+    void operationsDidEnd(const Operations &operations, const std::function<void()> &whenDone);
+
+    HRFDocumentController &m_documents;
+    std::unique_ptr<HRFMetaFileManager> m_fileManager;
+    std::unique_ptr<HRFArrayController> m_fileController;
+    HRFPlaylistWindow *m_window = nullptr;
+    bool m_shouldClose = false;
+};
