@@ -2,55 +2,69 @@
 
 #include "kit/HRFMainThread.h"
 
-#include <QThreadPool>
-
-#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
 
 namespace HRFBackground {
 
 namespace {
 
-std::atomic<int> running = 0;
-
-/// Of its own: in the global pool, which has a thread per core, blocks that wait for each other
-/// would keep each other from running.
-QThreadPool &pool()
+struct Counter
 {
-    static QThreadPool *const thePool = [] {
-        constexpr int manyThreads = 64;
-        auto *made = new QThreadPool; // never destroyed: it may be used until the very end
-        made->setMaxThreadCount(manyThreads);
-        return made;
-    }();
-    return *thePool;
+    std::mutex mutex; ///< guards the number
+    std::condition_variable isIdle;
+    int running = 0;
+};
+
+Counter &counter()
+{
+    static auto *const theCounter = new Counter; // threads may count until the very end
+    return *theCounter;
+}
+
+bool isIdle()
+{
+    const std::lock_guard lock(counter().mutex);
+    return counter().running == 0;
 }
 
 } // namespace
 
+/// A thread for each block: there are few blocks, and in a pool of some threads those that wait for
+/// each other could keep each other from running.
 void run(std::function<void()> block)
 {
-    ++running;
-    pool().start([block = std::move(block)]() mutable {
+    {
+        const std::lock_guard lock(counter().mutex);
+        ++counter().running;
+    }
+    std::thread([block = std::move(block)]() mutable {
         HRFMainThread::runLoggingFailures(block);
         block = nullptr; // what it holds is gone before it counts as done
-        --running;
+        {
+            const std::lock_guard lock(counter().mutex);
+            --counter().running;
+        }
+        counter().isIdle.notify_all();
         HRFMainThread::wakeUp();
-    });
+    }).detach();
 }
 
 void waitUntilIdle()
 {
     if (HRFMainThread::isCurrent())
-        HRFMainThread::serveUntil([] { return running == 0; });
-    else
-        pool().waitForDone();
+        return HRFMainThread::serveUntil(&isIdle);
+    std::unique_lock lock(counter().mutex);
+    counter().isIdle.wait(lock, [] { return counter().running == 0; });
 }
 
 } // namespace HRFBackground
 
 HRFBackgroundGroup::~HRFBackgroundGroup()
 {
-    HRFMainThread::serveUntil([this] { return isIdle(); });
+    HRFMainThread::serveUntil([this] { return m_running == 0; });
 }
 
 void HRFBackgroundGroup::run(std::function<void()> block)

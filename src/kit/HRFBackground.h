@@ -25,7 +25,6 @@ public:
     ~HRFBackgroundGroup();
 
     void run(std::function<void()> block);
-    bool isIdle() const { return m_running == 0; }
 
 private:
     std::atomic<int> m_running = 0;

@@ -30,8 +30,8 @@ struct Inbox
 
 Inbox &inbox()
 {
-    static Inbox theInbox;
-    return theInbox;
+    static auto *const theInbox = new Inbox; // threads may look in until the very end
+    return *theInbox;
 }
 
 void runBlocks()
