@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -153,12 +154,30 @@ void measureStart(const HRFMeasuringPlace &place)
                                       HRFCompare(contest, runCount).lirra, 40);
 }
 
+struct Measurement
+{
+    std::string_view name;
+    void (*measure)(const HRFMeasuringPlace &place);
+};
+
+constexpr Measurement measurements[] = {
+    {"read", measureReading},
+    {"show", measureShowing},
+    {"write", measureWriting},
+    {"import", measureImporting},
+    {"queue", measureWritingThroughQueue},
+    {"start", measureStart},
+};
+
 } // namespace
 
-void HRFMeasureAll(const HRFMeasuringPlace &place)
+void HRFMeasure(const HRFMeasuringPlace &place, std::span<const std::string_view> names)
 {
+    for (const std::string_view name : names)
+        if (std::ranges::find(measurements, name, &Measurement::name) == std::end(measurements))
+            throw std::runtime_error("there is no measurement “" + std::string(name) + "”");
     HRFResultTable::printHead();
-    for (const auto measure : {measureReading, measureShowing, measureWriting, measureImporting,
-                               measureWritingThroughQueue, measureStart})
-        measure(place);
+    for (const Measurement &measurement : measurements)
+        if (names.empty() || std::ranges::find(names, measurement.name) != names.end())
+            measurement.measure(place);
 }

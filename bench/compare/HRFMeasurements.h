@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
+#include <string_view>
 
 /// Where the measurements find what they need.
 struct HRFMeasuringPlace
@@ -10,5 +12,5 @@ struct HRFMeasuringPlace
     std::filesystem::path programs; ///< the folder of the programs that run as processes
 };
 
-/// Measures everything and prints the results as they come in.
-void HRFMeasureAll(const HRFMeasuringPlace &place);
+/// Measures what is named, or everything, and prints the results as they come in.
+void HRFMeasure(const HRFMeasuringPlace &place, std::span<const std::string_view> names);
