@@ -112,3 +112,15 @@ void HRFResultTable::printMilliseconds(const char *label, const std::vector<HRFC
            .target = text("<= %.0f ms", target),
            .isOver = median(times) > target});
 }
+
+void HRFResultTable::printKilobytes(const char *label, double kilobytes, double target)
+{
+    print({.label = label,
+           .lirra = {},
+           .plain = {},
+           .result = text("%.2f KB", kilobytes),
+           .spread = {},
+           .processor = {},
+           .target = text("<= %.0f KB", target),
+           .isOver = kilobytes > target});
+}

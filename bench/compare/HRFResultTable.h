@@ -13,5 +13,7 @@ void printHead();
 void printRatio(const char *label, const HRFComparison &comparison, double target);
 /// The median, and the least and the greatest time; the CPU column is the processor time.
 void printMilliseconds(const char *label, const std::vector<HRFCost> &costs, double target);
+/// A size that is measured once.
+void printKilobytes(const char *label, double kilobytes, double target);
 
 } // namespace HRFResultTable

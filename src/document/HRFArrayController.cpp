@@ -7,6 +7,7 @@
 #include "store/HRFMetaFile.h"
 
 #include <algorithm>
+#include <functional>
 #include <unordered_set>
 #include <utility>
 
@@ -42,6 +43,7 @@ Records filesAmong(const std::vector<HRFManagedObject *> &objects)
     return files;
 }
 
+/// Tells whether a record is one of some. To be handed to algorithms by reference where they copy.
 class Set
 {
 public:
@@ -115,7 +117,8 @@ void HRFArrayController::setFilter(HRFRecordFilter filter)
 void HRFArrayController::rearrangeObjects()
 {
     requireMainThread();
-    m_order.sort(m_content);
+    m_sorted = m_content;
+    m_order.sort(m_sorted);
     m_isSorted = true;
     arrange();
 }
@@ -123,30 +126,35 @@ void HRFArrayController::rearrangeObjects()
 void HRFArrayController::contextDidChange(const HRFContextChanges &changes)
 {
     m_isSorted = m_isSorted && changes.updated.empty();
-    Records inserted = filesAmong(changes.inserted);
+    const Records inserted = filesAmong(changes.inserted);
     const Records deleted = filesAmong(changes.deleted);
     if (inserted.empty() && deleted.empty())
         return;
-    const Set isDeleted(deleted);
-    std::erase_if(m_content, isDeleted);
     Records arranged = m_arranged;
-    std::erase_if(arranged, isDeleted);
+    if (const Set isDeleted(deleted); !deleted.empty())
+        for (Records *records : {&m_content, &m_sorted, &arranged})
+            std::erase_if(*records, std::cref(isDeleted));
     if (!inserted.empty()) {
-        m_order.merge(m_content, std::move(inserted));
+        std::ranges::copy(inserted, std::back_inserter(m_content));
+        m_order.merge(m_sorted, inserted);
         m_filter = {};
-        arranged = m_content;
+        arranged = m_sorted;
     }
     show(std::move(arranged));
 }
 
-/// Shows what the filter lets through of the content.
+/// Shows what the filter lets through.
 void HRFArrayController::arrange()
 {
     if (!m_filter)
-        return show(m_content);
-    Records arranged;
-    std::ranges::copy_if(m_content, std::back_inserter(arranged),
+        return show(m_sorted);
+    // Records born together stand together in memory: in that order they are gone through in a
+    // fraction of the time.
+    Records matching;
+    std::ranges::copy_if(m_content, std::back_inserter(matching),
                          [this](const HRFMetaFile *record) { return m_filter(*record); });
+    Records arranged;
+    std::ranges::copy_if(m_sorted, std::back_inserter(arranged), Set(matching));
     show(std::move(arranged));
 }
 
@@ -177,7 +185,8 @@ HRFMetaFile *HRFArrayController::heirOfSelection(const Records &arranged) const
 {
     const auto firstSelected =
         m_selected.empty() ? m_arranged.begin() : std::ranges::find(m_arranged, m_selected.front());
-    const auto rowsAbove = std::count_if(m_arranged.begin(), firstSelected, Set(arranged));
+    const Set isThere(arranged);
+    const auto rowsAbove = std::count_if(m_arranged.begin(), firstSelected, std::cref(isThere));
     return arranged[std::min(std::size_t(rowsAbove), arranged.size() - 1)];
 }
 

@@ -61,8 +61,9 @@ private:
     HRFMainContext &m_context;
     HRFRecordOrder m_order;
     HRFRecordFilter m_filter;
-    Records m_content; ///< every record, in order
-    bool m_isSorted = true; ///< nothing was edited since the content was sorted
+    Records m_content; ///< every record, in the order of birth
+    Records m_sorted; ///< the same in the order of the list
+    bool m_isSorted = true; ///< nothing was edited since the records were sorted
     Records m_arranged;
     Records m_selected;
 };

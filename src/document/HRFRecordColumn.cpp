@@ -44,10 +44,16 @@ std::optional<HRFRecordColumn> HRFRecordColumn::atKeyPath(const HRFObjectModel &
     return attribute ? std::optional(HRFRecordColumn(*attribute)) : std::nullopt;
 }
 
-QVariant HRFRecordColumn::value(const HRFMetaFile &file) const
+const HRFManagedObject &HRFRecordColumn::recordOf(const HRFMetaFile &file) const
 {
     const HRFManagedObject *record = m_relationship < 0 ? &file : file.related(m_relationship);
-    return m_isStored ? record->value(m_attribute->index) : record->valueForKey(m_attribute->name);
+    return *record;
+}
+
+QVariant HRFRecordColumn::value(const HRFMetaFile &file) const
+{
+    const HRFManagedObject &record = recordOf(file);
+    return m_isStored ? record.value(m_attribute->index) : record.valueForKey(m_attribute->name);
 }
 
 QString HRFRecordColumn::text(const HRFMetaFile &file) const
@@ -55,4 +61,14 @@ QString HRFRecordColumn::text(const HRFMetaFile &file) const
     const QVariant present = value(file);
     return m_transformer.isEmpty() ? present.toString()
                                    : HRFTransformedValue(m_transformer, present);
+}
+
+const QString *HRFRecordColumn::storedText(const HRFMetaFile &file) const
+{
+    if (!m_isStored || !m_transformer.isEmpty())
+        return nullptr;
+    const QVariant &present = recordOf(file).value(m_attribute->index);
+    return present.typeId() == QMetaType::QString
+        ? static_cast<const QString *>(present.constData())
+        : nullptr;
 }

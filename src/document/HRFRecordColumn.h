@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class HRFManagedObject;
 class HRFMetaFile;
 class HRFObjectModel;
 
@@ -23,8 +24,13 @@ public:
     QVariant value(const HRFMetaFile &file) const;
     /// The value as the user reads it.
     QString text(const HRFMetaFile &file) const;
+    /// The same without a copy, for loops: to copy a text that is in no cache takes longer than to
+    /// look through it. nullptr where there is no value, or the text is made from it.
+    const QString *storedText(const HRFMetaFile &file) const;
 
 private:
+    const HRFManagedObject &recordOf(const HRFMetaFile &file) const;
+
     const HRFAttributeDescription *m_attribute;
     int m_relationship; ///< from the MetaFile record to that with the attribute; -1 for itself
     bool m_isStored; ///< the record of the attribute makes no other value of what it holds

@@ -67,7 +67,10 @@ HRFRecordFilterForWords(const QString &text,
     return [words, columns, texts = QString()](const HRFMetaFile &file) mutable {
         texts.resize(0); // keeps its room for the next record
         for (const HRFRecordColumn &column : columns) {
-            appendFolded(texts, column.text(file));
+            if (const QString *stored = column.storedText(file))
+                appendFolded(texts, *stored);
+            else
+                appendFolded(texts, column.text(file));
             texts.append(u'\n'); // no word goes over it
         }
         return std::ranges::all_of(words,

@@ -1,0 +1,154 @@
+#include "list/HRFBenchRecords.h"
+
+#include "corpus/HRFCorpusAlbum.h"
+#include "kit/HRFFileReferenceTable.h"
+#include "kit/HRFMainThread.h"
+#include "sides/HRFOrThrow.h"
+#include "store/HRFAudioProperties.h"
+#include "store/HRFFileSnapshot.h"
+#include "store/HRFMainContext.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <chrono>
+#include <future>
+#include <stdexcept>
+#include <thread>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int tracksPerAlbum = 12;
+constexpr int filesPerSave = 300;
+
+using NamedValues = std::vector<std::pair<QString, QVariant>>;
+
+QVariant text(const std::string &utf8)
+{
+    return utf8.empty() ? QVariant() : QVariant(QString::fromStdString(utf8));
+}
+
+QVariant number(qlonglong value)
+{
+    return value == 0 ? QVariant() : QVariant(value);
+}
+
+HRFValues valuesOf(const QString &entityName, const NamedValues &namedValues)
+{
+    const HRFEntityDescription &entity =
+        *HRFObjectModel::named(u"Lirra"_s)->entityNamed(entityName);
+    HRFValues values;
+    for (const auto &[name, value] : namedValues)
+        values.setValue(entity.propertyIndex(name), value);
+    values.squeeze();
+    return values;
+}
+
+HRFValues tagsOf(const HRFCorpusAlbum &album, const HRFCorpusTrack &track)
+{
+    return valuesOf(HRFMetaTags::entityName(),
+                    {{u"title"_s, text(track.title)},
+                     {u"artist"_s, text(album.artist)},
+                     {u"album"_s, text(album.title)},
+                     {u"albumArtist"_s, text(album.artist)},
+                     {u"composer"_s, text(album.composer)},
+                     {u"genre"_s, text(album.genre)},
+                     {u"publisher"_s, text(album.publisher)},
+                     {u"copyright"_s, text(album.copyright)},
+                     {u"comment"_s, text(track.comment)},
+                     {u"lyrics"_s, text(track.lyrics)},
+                     {u"isrc"_s, text(track.isrc)},
+                     {u"year"_s, number(album.year)},
+                     {u"trackNumber"_s, number(track.number)},
+                     {u"trackTotal"_s, number(tracksPerAlbum)},
+                     {u"discNumber"_s, number(album.discNumber)},
+                     {u"discTotal"_s, number(album.discTotal)},
+                     {u"rating"_s, number(track.rating)}});
+}
+
+HRFValues propertiesOf(const HRFCorpusAlbum &album, const HRFCorpusTrack &track)
+{
+    return valuesOf(HRFAudioProperties::entityName(),
+                    {{u"bitRate"_s, number(album.bitRate)},
+                     {u"bitDepth"_s, number(16)},
+                     {u"sampleRate"_s, number(44100)},
+                     {u"duration"_s, number(120 + qlonglong(track.title.size()))},
+                     {u"channels"_s, number(2)},
+                     {u"channelMode"_s, text("Joint stereo")},
+                     {u"format"_s, text("MPEG 1 Layer 3")},
+                     {u"tagVersion"_s, text("ID3v2.4")},
+                     {u"isVBR"_s, false}});
+}
+
+HRFFileSnapshot snapshotOf(const HRFCorpusAlbum &album, const HRFCorpusTrack &track,
+                           const HRFFileReference &file)
+{
+    return {.tagSize = qlonglong(track.comment.size() + track.lyrics.size()),
+            .tags = tagsOf(album, track),
+            .properties = propertiesOf(album, track),
+            .facts = HRFFileFacts::of(file),
+            .artwork = HRFArtworkFactsForPicture(QByteArray::fromStdString(album.picture))};
+}
+
+void insertFile(HRFPrivateContext &context, const HRFFileReference &file, int index,
+                const HRFFileSnapshot &snapshot)
+{
+    auto *record = context.newObject<HRFMetaFile>();
+    record->setSortIndex(index);
+    record->setFileURL(HRFFileReferenceTable::referenceURLForFile(file).value());
+    record->importValues(snapshot);
+}
+
+} // namespace
+
+HRFBenchRecords::HRFBenchRecords(const QString &folder, int count)
+    : m_folder(folder), m_count(count)
+{
+    for (int i = 0; i < count; ++i) {
+        if (i % tracksPerAlbum == 0)
+            QDir().mkpath(QFileInfo(fileName(i)).path());
+        QFile file(fileName(i));
+        if (!file.open(QIODevice::WriteOnly))
+            throw std::runtime_error(file.errorString().toStdString());
+    }
+}
+
+QString HRFBenchRecords::fileName(int number) const
+{
+    return u"%1/Artist/Album %2/%3 A song.mp3"_s.arg(m_folder)
+        .arg(number / tracksPerAlbum)
+        .arg(number % tracksPerAlbum + 1, 2, 10, QChar(u'0'));
+}
+
+void HRFBenchRecords::insertInto(const std::shared_ptr<HRFMainContext> &context) const
+{
+    const auto background = std::make_shared<HRFPrivateContext>(context);
+    const auto insert = [&] {
+        HRFCorpusAlbum album;
+        for (int i = 0; i < m_count; ++i) {
+            if (i % tracksPerAlbum == 0)
+                album = HRFMakeCorpusAlbum(i / tracksPerAlbum, tracksPerAlbum);
+            const auto file = HRFFileReference::fromPath(fileName(i));
+            insertFile(*background, file, i,
+                       snapshotOf(album, album.tracks[std::size_t(i % tracksPerAlbum)], file));
+            if ((i + 1) % filesPerSave == 0 || i + 1 == m_count)
+                HRFOrThrow(background->save());
+        }
+    };
+    std::packaged_task<void()> task([&] { background->performBlockAndWait(insert); });
+    std::future<void> end = task.get_future();
+    std::thread worker([&] {
+        task();
+        HRFMainThread::wakeUp();
+    });
+    HRFMainThread::serveUntil([&] { return end.wait_for(0s) == std::future_status::ready; });
+    worker.join();
+    end.get();
+    HRFOrThrow(context->save());
+}
