@@ -12,7 +12,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <chrono>
 #include <future>
@@ -96,8 +95,25 @@ HRFFileSnapshot snapshotOf(const HRFCorpusAlbum &album, const HRFCorpusTrack &tr
             .artwork = HRFArtworkFactsForPicture(QByteArray::fromStdString(album.picture))};
 }
 
-void insertFile(HRFPrivateContext &context, const HRFFileReference &file, int index,
-                const HRFFileSnapshot &snapshot)
+HRFFileReference makeFile(const QString &folder, const HRFCorpusAlbum &album,
+                          const HRFCorpusTrack &track)
+{
+    const QString albumFolder = u"%1/%2/%3 %4"_s.arg(folder, QString::fromStdString(album.artist))
+                                    .arg(album.number)
+                                    .arg(QString::fromStdString(album.title));
+    if (track.number == 1)
+        QDir().mkpath(albumFolder);
+    const QString path = u"%1/%2 %3.mp3"_s.arg(albumFolder)
+                             .arg(track.number, 2, 10, QChar(u'0'))
+                             .arg(QString::fromStdString(track.title));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        throw std::runtime_error(file.errorString().toStdString());
+    return HRFFileReference::fromPath(path);
+}
+
+void insertRecord(HRFPrivateContext &context, int index, const HRFFileReference &file,
+                  const HRFFileSnapshot &snapshot)
 {
     auto *record = context.newObject<HRFMetaFile>();
     record->setSortIndex(index);
@@ -105,43 +121,29 @@ void insertFile(HRFPrivateContext &context, const HRFFileReference &file, int in
     record->importValues(snapshot);
 }
 
-} // namespace
-
-HRFBenchRecords::HRFBenchRecords(const QString &folder, int count)
-    : m_folder(folder), m_count(count)
+void insertRecords(HRFPrivateContext &context, const QString &folder, int count)
 {
+    HRFCorpusAlbum album;
     for (int i = 0; i < count; ++i) {
         if (i % tracksPerAlbum == 0)
-            QDir().mkpath(QFileInfo(fileName(i)).path());
-        QFile file(fileName(i));
-        if (!file.open(QIODevice::WriteOnly))
-            throw std::runtime_error(file.errorString().toStdString());
+            album = HRFMakeCorpusAlbum(i / tracksPerAlbum, tracksPerAlbum);
+        const HRFCorpusTrack &track = album.tracks[std::size_t(i % tracksPerAlbum)];
+        const HRFFileReference file = makeFile(folder, album, track);
+        insertRecord(context, i, file, snapshotOf(album, track, file));
+        if ((i + 1) % filesPerSave == 0 || i + 1 == count)
+            HRFOrThrow(context.save());
     }
 }
 
-QString HRFBenchRecords::fileName(int number) const
-{
-    return u"%1/Artist/Album %2/%3 A song.mp3"_s.arg(m_folder)
-        .arg(number / tracksPerAlbum)
-        .arg(number % tracksPerAlbum + 1, 2, 10, QChar(u'0'));
-}
+} // namespace
 
-void HRFBenchRecords::insertInto(const std::shared_ptr<HRFMainContext> &context) const
+void HRFInsertBenchRecords(const std::shared_ptr<HRFMainContext> &context, const QString &folder,
+                           int count)
 {
     const auto background = std::make_shared<HRFPrivateContext>(context);
-    const auto insert = [&] {
-        HRFCorpusAlbum album;
-        for (int i = 0; i < m_count; ++i) {
-            if (i % tracksPerAlbum == 0)
-                album = HRFMakeCorpusAlbum(i / tracksPerAlbum, tracksPerAlbum);
-            const auto file = HRFFileReference::fromPath(fileName(i));
-            insertFile(*background, file, i,
-                       snapshotOf(album, album.tracks[std::size_t(i % tracksPerAlbum)], file));
-            if ((i + 1) % filesPerSave == 0 || i + 1 == m_count)
-                HRFOrThrow(background->save());
-        }
-    };
-    std::packaged_task<void()> task([&] { background->performBlockAndWait(insert); });
+    std::packaged_task<void()> task([&] {
+        background->performBlockAndWait([&] { insertRecords(*background, folder, count); });
+    });
     std::future<void> end = task.get_future();
     std::thread worker([&] {
         task();

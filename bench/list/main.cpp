@@ -75,11 +75,10 @@ void measureFiltering(HRFArrayController &list)
 
 void measureAll(const QString &scratch)
 {
-    const HRFBenchRecords records(scratch, recordCount);
     const auto context = openList(scratch);
     HRFArrayController list(*context);
     const double before = residentKilobytes();
-    records.insertInto(context);
+    HRFInsertBenchRecords(context, scratch, recordCount);
     const double growth = residentKilobytes() - before;
     if (list.arrangedObjects().size() != recordCount)
         throw std::runtime_error("The list is not complete.");
