@@ -6,6 +6,7 @@
 
 #include <QUndoCommand>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -88,8 +89,12 @@ HRFResult<void> HRFMainContext::save()
 {
     processPendingChanges();
     HRFObjectStore::Changes changes{.deleted = m_unsavedDeletions};
-    for (const HRFObjectID objectID : std::set(m_unsaved.begin(), m_unsaved.end()))
-        changes.stored.push_back(object(objectID));
+    std::ranges::sort(m_unsaved);
+    const auto repeated = std::ranges::unique(m_unsaved);
+    m_unsaved.erase(repeated.begin(), repeated.end());
+    for (const HRFObjectID objectID : m_unsaved)
+        if (const HRFManagedObject *unsaved = object(objectID))
+            changes.stored.push_back(unsaved);
     if (auto written = m_store->write(changes); !written)
         return written;
     m_unsaved.clear();
@@ -119,8 +124,14 @@ HRFManagedObject &HRFMainContext::insert(const HRFEntityDescription &entity)
 void HRFMainContext::noteInserted(HRFManagedObject &object)
 {
     m_inserted.push_back(object.objectID());
-    m_unsaved.insert(object.objectID());
+    noteUnsaved(object.objectID());
     schedulePendingChanges();
+}
+
+void HRFMainContext::noteUnsaved(HRFObjectID objectID)
+{
+    if (m_unsaved.empty() || m_unsaved.back() != objectID)
+        m_unsaved.push_back(objectID);
 }
 
 void HRFMainContext::remove(HRFManagedObject &object)
@@ -130,7 +141,6 @@ void HRFMainContext::remove(HRFManagedObject &object)
         const std::lock_guard lock(m_lock);
         m_deleted.push_back(std::move(m_objects[std::size_t(objectID)]));
     }
-    m_unsaved.erase(objectID);
     m_unsavedDeletions.emplace_back(&object.entity(), objectID);
     schedulePendingChanges();
 }
@@ -153,7 +163,7 @@ void HRFMainContext::noteChange(HRFManagedObject &object, int property)
     found->second |= HRFPropertyBit(property);
     if (isNew)
         m_updatedOrder.push_back(object.objectID());
-    m_unsaved.insert(object.objectID());
+    noteUnsaved(object.objectID());
     schedulePendingChanges();
 }
 

@@ -6,7 +6,6 @@
 
 #include <mutex>
 #include <unordered_map>
-#include <unordered_set>
 
 class HRFObjectStore;
 
@@ -78,6 +77,7 @@ private:
     void mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source);
     void adopt(std::unique_ptr<HRFManagedObject> object);
     void noteInserted(HRFManagedObject &object);
+    void noteUnsaved(HRFObjectID objectID);
     void noteChange(HRFManagedObject &object, int property);
     void schedulePendingChanges();
     void tell(bool isFromBackground);
@@ -100,7 +100,7 @@ private:
     QString m_actionName;
 
     // What the store file does not have yet:
-    std::unordered_set<HRFObjectID> m_unsaved;
+    std::vector<HRFObjectID> m_unsaved; ///< some stand in it several times, or are deleted
     std::vector<std::pair<const HRFEntityDescription *, HRFObjectID>> m_unsavedDeletions;
 
     QUndoStack m_undoManager;

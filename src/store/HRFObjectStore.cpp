@@ -245,15 +245,20 @@ void HRFObjectStore::storeObject(const HRFManagedObject &object)
 
 void HRFObjectStore::shareTexts(HRFValues &values)
 {
+    // The files of an album come one after the other: texts seen long ago need not be kept.
+    constexpr qsizetype mostTexts = 10000;
     const std::lock_guard lock(m_textsLock);
+    if (m_texts.size() >= mostTexts)
+        m_texts.clear();
     HRFForEachProperty(values.present(), [&](int property) {
-        const QVariant &value = values.value(property);
-        if (value.typeId() == QMetaType::QString)
-            values.setValue(property, *m_texts.insert(value.toString()));
+        if (values.value(property).typeId() != QMetaType::QString)
+            return;
+        QString text = values.value(property).toString();
+        auto shared = m_texts.constFind(text);
+        if (shared == m_texts.constEnd()) {
+            text.squeeze(); // most are made in more room than they need
+            shared = m_texts.insert(text);
+        }
+        values.setValue(property, *shared);
     });
-    if (m_texts.size() < m_textsWorthPruning)
-        return;
-    // A text that only this set holds is in no record any more.
-    m_texts.removeIf([](const QString &text) { return text.isDetached(); });
-    m_textsWorthPruning = std::max(m_textsWorthPruning, 2 * m_texts.size());
 }

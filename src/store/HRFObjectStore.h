@@ -50,7 +50,7 @@ public:
 
     /// From any thread.
     HRFObjectID newObjectID() { return m_nextObjectID++; }
-    /// Gives every text the storage of an equal one seen before: most texts of a list stand in it
+    /// Gives every text the storage of an equal one seen of late: most texts of a list stand in it
     /// many times. From any thread.
     void shareTexts(HRFValues &values);
 
@@ -76,7 +76,6 @@ private:
     std::vector<Row> m_rows;
     std::atomic<HRFObjectID> m_nextObjectID = 1;
 
-    std::mutex m_textsLock; ///< guards the two members below
+    std::mutex m_textsLock; ///< guards the member below
     QSet<QString> m_texts;
-    qsizetype m_textsWorthPruning = 1024;
 };
