@@ -67,8 +67,7 @@ const QString *HRFRecordColumn::storedText(const HRFMetaFile &file) const
 {
     if (!m_isStored || !m_transformer.isEmpty())
         return nullptr;
-    const QVariant &present = recordOf(file).value(m_attribute->index);
-    return present.typeId() == QMetaType::QString
-        ? static_cast<const QString *>(present.constData())
-        : nullptr;
+    const HRFValues &values = recordOf(file).values();
+    const int property = m_attribute->index;
+    return values.texts() & HRFPropertyBit(property) ? &values.text(property) : nullptr;
 }

@@ -281,7 +281,7 @@ void HRFMainContext::merge(HRFPrivateChanges changes)
 void HRFMainContext::mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source)
 {
     HRFForEachProperty(source.changed, [&](int property) {
-        const QVariant &value = source.values.value(property);
+        const QVariant value = source.values.value(property);
         if (object.value(property) == value)
             return;
         {

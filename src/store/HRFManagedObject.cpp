@@ -34,7 +34,7 @@ void HRFManagedObject::setValue(int property, const QVariant &value)
 
 HRFManagedObject *HRFManagedObject::related(int relationship) const
 {
-    const QVariant &objectID = m_values.value(relationship);
+    const QVariant objectID = m_values.value(relationship);
     return objectID.isValid() ? m_context->object(objectID.toLongLong()) : nullptr;
 }
 

@@ -32,7 +32,7 @@ public:
     /// Sets an attribute; no value, the null marker and empty text take its value away.
     virtual void setValueForKey(const QVariant &value, const QString &name);
     /// The same by property number, for attributes alone.
-    const QVariant &value(int property) const { return m_values.value(property); }
+    QVariant value(int property) const { return m_values.value(property); }
     void setValue(int property, const QVariant &value);
 
     /// The object at the other end of a relationship; nullptr when there is none.

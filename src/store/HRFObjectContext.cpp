@@ -54,7 +54,7 @@ QHash<QString, QVariant> HRFObjectChange::changedValues() const
     HRFForEachProperty(properties, [&](int property) {
         if (object->entity().isRelationship(property))
             return;
-        const QVariant &value = object->value(property);
+        const QVariant value = object->value(property);
         values.insert(object->entity().propertyName(property),
                       value.isValid() ? value : QVariant::fromValue(nullptr));
     });

@@ -250,15 +250,13 @@ void HRFObjectStore::shareTexts(HRFValues &values)
     const std::lock_guard lock(m_textsLock);
     if (m_texts.size() >= mostTexts)
         m_texts.clear();
-    HRFForEachProperty(values.present(), [&](int property) {
-        if (values.value(property).typeId() != QMetaType::QString)
-            return;
-        QString text = values.value(property).toString();
+    HRFForEachProperty(values.texts(), [&](int property) {
+        QString text = values.text(property);
         auto shared = m_texts.constFind(text);
         if (shared == m_texts.constEnd()) {
             text.squeeze(); // most are made in more room than they need
             shared = m_texts.insert(text);
         }
-        values.setValue(property, *shared);
+        values.setText(property, *shared);
     });
 }
