@@ -128,6 +128,12 @@ void HRFRecordOrder::rankTexts(const Records &records, const HRFRecordColumn &co
 void HRFRecordOrder::merge(Records &sorted, Records newcomers) const
 {
     sort(newcomers);
+    const bool allComeLast =
+        sorted.empty() || newcomers.empty() || isBefore(*sorted.back(), *newcomers.front());
+    if (allComeLast) {
+        std::ranges::copy(newcomers, std::back_inserter(sorted));
+        return;
+    }
     Records merged;
     merged.reserve(sorted.size() + newcomers.size());
     auto rest = sorted.cbegin();
