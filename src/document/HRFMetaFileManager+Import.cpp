@@ -38,14 +38,23 @@ bool HRFMetaFileManager::importFoundFiles(HRFFoundFiles found)
 {
     if (!found.problems.empty())
         Q_EMIT filesWereNotImported(found.problems);
-    if (found.files.empty())
+    if (found.files.empty() || m_hasStopped)
         return false;
     m_imports.run([this, files = std::move(found.files)] { runImport(files); });
     return true;
 }
 
+void HRFMetaFileManager::stopImports()
+{
+    m_hasStopped = true;
+    if (m_importProgress)
+        m_importProgress->cancel();
+    m_imports.waitUntilIdle();
+}
+
 void HRFMetaFileManager::runImport(const std::vector<HRFFoundFile> &files)
 {
+    const std::lock_guard turn(m_importTurn);
     QSet<QString> imported;
     {
         const HRFUndoSuspension noUndo(managedObjectContext());
@@ -70,9 +79,9 @@ bool HRFMetaFileManager::importFiles(const std::vector<HRFFoundFile> &files,
         HRFMainThread::run([&] { Q_EMIT importDidEnd(urlsOf(files)); }, Wait::Yes);
         return false;
     }
-    HRFMainThread::run([&] { m_importProgress = beginProgress(newFiles.size()); }, Wait::Yes);
-    const std::shared_ptr<HRFProgress> progress = m_importProgress;
-    const Operations operations = makeOperations(newFiles);
+    std::shared_ptr<HRFProgress> progress;
+    HRFMainThread::run([&] { progress = beginProgress(newFiles.size()); }, Wait::Yes);
+    const Operations operations = makeOperations(newFiles, progress);
     read(operations);
     if (progress->isCancelled())
         discardRecords(operations);
@@ -109,6 +118,9 @@ std::shared_ptr<HRFProgress> HRFMetaFileManager::beginProgress(std::size_t fileC
     m_progressWindow = std::make_unique<HRFProgressWindowController>(progress);
     m_progressWindow->setTitleShowsProcessing(false);
     m_progressWindow->showAsSheet(fileCount <= quickImport ? delay : std::chrono::milliseconds());
+    m_importProgress = progress;
+    if (m_hasStopped)
+        progress->cancel();
     return progress;
 }
 
@@ -120,19 +132,19 @@ void HRFMetaFileManager::endProgress()
 }
 
 HRFMetaFileManager::Operations
-HRFMetaFileManager::makeOperations(const std::vector<HRFFoundFile> &files) const
+HRFMetaFileManager::makeOperations(const std::vector<HRFFoundFile> &files,
+                                   const std::shared_ptr<HRFProgress> &progress)
 {
     QHash<QString, std::vector<std::shared_ptr<HRFOperation>>> pending;
     for (const auto &operation : fileOperationQueue().operations())
         if (const auto onFile = std::dynamic_pointer_cast<HRFFileOperation>(operation))
             pending[onFile->fileKey()].push_back(operation);
-    const auto batch = std::make_shared<const HRFImportBatch>(
-        m_backgroundContext, m_importProgress, m_inspector, [this] {
-            const_cast<HRFMetaFileManager *>(this)->saveBackgroundContextAndPresentErrors();
-        });
+    const auto batch =
+        std::make_shared<const HRFImportBatch>(m_backgroundContext, progress, m_inspector,
+                                               [this] { saveBackgroundContextAndPresentErrors(); });
     Operations operations;
     for (const HRFFoundFile &file : files) {
-        if (m_importProgress->isCancelled())
+        if (progress->isCancelled())
             break;
         auto operation = std::make_shared<HRFFileImportOperation>(
             file.file, file.fileURL, qlonglong(operations.size()), batch);

@@ -29,8 +29,7 @@ HRFMetaFileManager::HRFMetaFileManager(HRFPlaylist &document)
 
 HRFMetaFileManager::~HRFMetaFileManager()
 {
-    if (m_importProgress)
-        m_importProgress->cancel();
+    stopImports();
 }
 
 HRFOperationQueue &HRFMetaFileManager::fileOperationQueue()

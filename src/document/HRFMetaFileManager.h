@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -24,7 +25,6 @@ class HRFMetaFileManager : public HRFPersistentStoreManager
     Q_OBJECT
 public:
     explicit HRFMetaFileManager(HRFPlaylist &document);
-    /// Cancels a running import and waits for it.
     ~HRFMetaFileManager() override;
 
     /// All writes, strips and moves of all lists, one at a time.
@@ -58,6 +58,8 @@ public:
     bool parseFiles(const std::vector<HRFFileReference> &paths);
     /// The same for files that were found before.
     bool importFoundFiles(HRFFoundFiles found);
+    /// Cancels all imports and waits for their end. No other can be started afterwards.
+    void stopImports();
 
 Q_SIGNALS:
     /// An import, or the attempt at one, has ended
@@ -74,7 +76,8 @@ private:
     void runImport(const std::vector<HRFFoundFile> &files);
     bool importFiles(const std::vector<HRFFoundFile> &files, QSet<QString> &imported);
     std::vector<HRFFoundFile> filesNotInList(const std::vector<HRFFoundFile> &files) const;
-    Operations makeOperations(const std::vector<HRFFoundFile> &files) const;
+    Operations makeOperations(const std::vector<HRFFoundFile> &files,
+                              const std::shared_ptr<HRFProgress> &progress);
     void read(const Operations &operations);
     void discardRecords(const Operations &operations);
     bool saveBackgroundContextAndPresentErrors();
@@ -99,5 +102,7 @@ private:
     std::shared_ptr<HRFProgress> m_writeProgress;
     std::unique_ptr<HRFProgressWindowController> m_progressWindow;
     bool m_isTakingBackRename = false;
+    bool m_hasStopped = false; ///< stopImports was called
+    std::mutex m_importTurn; ///< lets one import run at a time: what it finds new must stay so
     HRFBackgroundGroup m_imports;
 };

@@ -47,7 +47,10 @@ HRFPlaylist::HRFPlaylist(HRFDocumentController &documents)
             &HRFPlaylist::fileManagerDidImport);
 }
 
-HRFPlaylist::~HRFPlaylist() = default;
+HRFPlaylist::~HRFPlaylist()
+{
+    m_fileManager->stopImports(); // as long as there is a list to tell
+}
 
 HRFPlaylist *HRFPlaylist::currentPlaylist()
 {

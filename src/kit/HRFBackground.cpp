@@ -62,7 +62,7 @@ void waitUntilIdle()
 
 } // namespace HRFBackground
 
-HRFBackgroundGroup::~HRFBackgroundGroup()
+void HRFBackgroundGroup::waitUntilIdle()
 {
     HRFMainThread::serveUntil([this] { return m_running == 0; });
 }

@@ -21,10 +21,11 @@ public:
     HRFBackgroundGroup() = default;
     HRFBackgroundGroup(const HRFBackgroundGroup &) = delete;
     HRFBackgroundGroup &operator=(const HRFBackgroundGroup &) = delete;
-    /// On the main thread; waits until every block is done, and serves blocks meanwhile.
-    ~HRFBackgroundGroup();
+    ~HRFBackgroundGroup() { waitUntilIdle(); }
 
     void run(std::function<void()> block);
+    /// On the main thread, which serves blocks meanwhile.
+    void waitUntilIdle();
 
 private:
     std::atomic<int> m_running = 0;

@@ -241,6 +241,21 @@ TEST_F(HRFPlaylistTest, ACancelledImportLeavesNothing)
     EXPECT_TRUE(list.managedObjectContext().isUndoRegistrationEnabled());
 }
 
+/// Dropped twice, a file is there once; and a list may go while it imports.
+TEST_F(HRFPlaylistTest, ImportsFollowEachOther)
+{
+    addCopies(50);
+    HRFPlaylist &other = documents.newDocument();
+    other.importFileAtPath(music({}));
+    other.importFileAtPath(music({}));
+    for (int i = 0; i < 3; ++i)
+        list.importFileAtPath(music({}));
+    documents.removeDocument(other);
+    waitUntil([&] { return ends == 3; });
+    EXPECT_THAT(list.arrangedFiles(), SizeIs(50));
+    EXPECT_EQ(user.visibleProgressCount, 0);
+}
+
 TEST_F(HRFPlaylistTest, EditsBeforeTheWriteBecomeOneWrite)
 {
     importCopies(1);
