@@ -1,7 +1,6 @@
 #include "document/HRFDocumentController.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFApplication.h"
-#include "kit/HRFBackground.h"
 #include "kit/HRFMainThread.h"
 #include "kit/HRFUserInteraction.h"
 #include "operations/HRFProgressWindowController.h"
@@ -10,35 +9,40 @@
 
 bool HRFDocumentController::terminate(std::function<void()> terminate)
 {
-    if (m_pendingWork)
-        return false; // it is on its way
-    m_terminate = std::move(terminate);
+    const bool isUnderWay = bool(std::exchange(m_terminate, std::move(terminate)));
+    return !isUnderWay && terminateWhenIdle();
+}
+
+/// Edits of this very event are work, too.
+bool HRFDocumentController::terminateWhenIdle()
+{
+    for (const auto &document : m_documents)
+        document->managedObjectContext().processPendingChanges();
     if (HRFMetaFileManager::fileOperationQueue().operationCount() == 0) {
         finishTermination();
         return true;
     }
     for (const auto &document : m_documents)
         document->setShouldClose(true);
-    waitForPendingWork();
+    if (!m_pendingWork)
+        showPendingWork();
+    HRFMetaFileManager::fileOperationQueue().addBarrierBlock(
+        [this] { HRFMainThread::run([this] { terminateWhenIdle(); }, HRFMainThread::Wait::No); });
     return false;
 }
 
-void HRFDocumentController::waitForPendingWork()
+void HRFDocumentController::showPendingWork()
 {
     const auto progress = std::make_shared<HRFProgress>();
     progress->setLocalizedDescription(tr("Writing Metadata…"));
     for (const auto &document : m_documents)
-        if (const auto &pending = document->fileManager().writeProgress())
+        for (const auto &pending : document->pendingProgresses())
             progress->addChild(pending);
     progress->setLocalizedAdditionalDescription(
         tr("%1 items total").arg(progress->totalUnitCount()));
     m_pendingWork = std::make_unique<HRFProgressWindowController>(progress);
     m_pendingWork->setCancellationHandler([this] { cancelPendingWork(); });
     m_pendingWork->showWindow();
-    HRFBackground::run([this] {
-        HRFMetaFileManager::fileOperationQueue().waitUntilAllOperationsAreFinished();
-        HRFMainThread::run([this] { finishTermination(); }, HRFMainThread::Wait::No);
-    });
 }
 
 void HRFDocumentController::cancelPendingWork()
@@ -61,6 +65,8 @@ void HRFDocumentController::finishTermination()
     if (m_pendingWork)
         m_pendingWork->dismiss();
     m_pendingWork.reset();
+    for (const auto &document : m_documents)
+        document->fileManager().stopImports();
     HRFApplication::shared().willTerminate();
     if (const auto terminate = std::exchange(m_terminate, {}))
         terminate();

@@ -78,7 +78,8 @@ void HRFDocumentController::removeDocument(HRFPlaylist &document)
 {
     const auto found =
         std::ranges::find(m_documents, &document, &std::unique_ptr<HRFPlaylist>::get);
-    HRFRequire(found != m_documents.end(), "document");
+    if (found == m_documents.end())
+        return; // it is on its way
     if (m_current == &document)
         m_current = nullptr;
     found->release()->deleteLater();

@@ -58,7 +58,8 @@ public:
     bool terminate(std::function<void()> terminate);
 
 private:
-    void waitForPendingWork();
+    bool terminateWhenIdle();
+    void showPendingWork();
     void cancelPendingWork();
     void finishTermination();
 

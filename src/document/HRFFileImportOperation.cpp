@@ -1,10 +1,23 @@
 #include "document/HRFFileImportOperation.h"
 
+#include "kit/HRFFileReferenceTable.h"
 #include "store/HRFMetaFile.h"
 #include "store/HRFPrivateContext.h"
+#include "store/HRFSystemFile.h"
 #include "tags/HRFTagEngine.h"
 
+#include <QCoreApplication>
+
 #include <utility>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("HRFFileImportOperation", text);
+}
+
+} // namespace
 
 HRFFileImportOperation::HRFFileImportOperation(const HRFFileReference &file,
                                                const QString &referenceURL, qlonglong sortIndex,
@@ -17,6 +30,13 @@ HRFFileImportOperation::HRFFileImportOperation(const HRFFileReference &file,
 
 HRFFileImportOperation::Reading HRFFileImportOperation::readFile() const
 {
+    // Another file under the name is none that was asked for.
+    if (HRFFileReferenceTable::referenceURLForFile(fileURL()) != m_referenceURL)
+        return std::unexpected(HRFError{
+            .domain = QString::fromLatin1(HRFFileErrorDomain),
+            .code = HRFFileErrorCode::noSuchFile,
+            .description = tr("The file “%1” could not be found").arg(fileURL().displayName()),
+            .path = fileURL().displayPath()});
     auto engine = HRFTagEngine::initWithURL(fileURL(), true);
     if (!engine)
         return std::unexpected(std::move(engine.error()));
@@ -84,6 +104,7 @@ void HRFFileImportOperation::insertRecord(const HRFFileSnapshot &snapshot)
     auto *record = m_batch->context->newObject<HRFMetaFile>();
     record->setSortIndex(m_sortIndex);
     record->setFileURL(m_referenceURL);
+    record->fileInfo().setFileName(fileURL().displayName()); // wherever the file is by now
     record->importValues(snapshot);
     setObjectID(record->objectID());
     setSucceeded(true);

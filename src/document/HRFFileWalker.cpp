@@ -5,7 +5,7 @@
 #include "tags/HRFTagEngine.h"
 
 #include <QCoreApplication>
-#include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <cerrno>
@@ -44,7 +44,7 @@ private:
     const std::function<bool()> &m_isCancelled;
     const QCollator m_collator = HRFCollation::naturalOrder();
     HRFFoundFiles m_found;
-    QHash<QString, std::size_t> m_placeByURL;
+    QSet<QString> m_urls; ///< of the files found
     std::size_t m_reached = 0; ///< files, counted every time
 };
 
@@ -87,14 +87,10 @@ void Walk::addFile(const HRFFileReference &file)
     if (!url)
         return addProblem(file, HRFError::fromErrno(errno));
     ++m_reached;
-    const auto known = m_placeByURL.constFind(*url);
-    if (known == m_placeByURL.cend()) {
-        m_placeByURL.insert(*url, m_found.files.size());
-        m_found.files.push_back({file, *url});
-    } else {
-        // The reference is to lead to the path that came first.
-        HRFFileReferenceTable::referenceURLForFile(m_found.files[*known].file);
-    }
+    if (m_urls.contains(*url))
+        return;
+    m_urls.insert(*url);
+    m_found.files.push_back({file, *url});
 }
 
 void Walk::addFolder(const HRFFileReference &folder)

@@ -58,15 +58,28 @@ void HRFMetaFileManager::runImport(const std::vector<HRFFoundFile> &files)
     QSet<QString> imported;
     {
         const HRFUndoSuspension noUndo(managedObjectContext());
-        if (importFiles(files, imported))
-            HRFMainThread::run([this] { saveChanges(); }, Wait::Yes);
+        HRFMainThread::runLoggingFailures([&] {
+            if (importFiles(files, imported))
+                saveImport();
+        });
     }
     HRFMainThread::run(
         [&] {
+            endProgress();
             Q_EMIT importDidEnd({});
             if (!imported.isEmpty()
                 && HRFUserDefaults::standard().boolForKey(u"lirra.general.selectsInserted"_s))
                 Q_EMIT importDidEnd(imported);
+        },
+        Wait::Yes);
+}
+
+void HRFMetaFileManager::saveImport()
+{
+    HRFMainThread::run(
+        [this] {
+            if (const auto saved = managedObjectContext()->save(); !saved)
+                HRFUserInteraction::presentErrorLater(saved.error());
         },
         Wait::Yes);
 }
@@ -83,11 +96,17 @@ bool HRFMetaFileManager::importFiles(const std::vector<HRFFoundFile> &files,
     HRFMainThread::run([&] { progress = beginProgress(newFiles.size()); }, Wait::Yes);
     const Operations operations = makeOperations(newFiles, progress);
     read(operations);
-    if (progress->isCancelled())
+    bool isCancelled = false; // cancelling later has no effect
+    HRFMainThread::run(
+        [&] {
+            isCancelled = progress->isCancelled();
+            endProgress();
+        },
+        Wait::Yes);
+    if (isCancelled) {
         discardRecords(operations);
-    HRFMainThread::run([this] { endProgress(); }, Wait::Yes);
-    if (progress->isCancelled())
         return false;
+    }
     const QSet<QString> succeeded = sortOutcomes(operations);
     if (progress->completedUnitCount() == 0 || !saveBackgroundContextAndPresentErrors())
         return false;
@@ -126,6 +145,9 @@ std::shared_ptr<HRFProgress> HRFMetaFileManager::beginProgress(std::size_t fileC
 
 void HRFMetaFileManager::endProgress()
 {
+    if (!m_importProgress)
+        return;
+    m_importProgress->setCancellationHandler({});
     m_progressWindow->dismiss();
     m_progressWindow.reset();
     m_importProgress.reset();
@@ -185,15 +207,11 @@ bool HRFMetaFileManager::saveBackgroundContextAndPresentErrors()
     });
     if (saved)
         return true;
-    HRFMainThread::run(
-        [error = saved.error()] {
-            HRFUserInteraction::current().presentError(
-                {.domain = error.domain,
-                 .code = error.code,
-                 .description = tr("Files couldn't be opened because of core data related issues."),
-                 .underlying = std::make_shared<HRFError>(error)});
-        },
-        Wait::Yes);
+    HRFUserInteraction::presentErrorLater(
+        {.domain = saved.error().domain,
+         .code = saved.error().code,
+         .description = tr("Files couldn't be opened because of core data related issues."),
+         .underlying = std::make_shared<HRFError>(saved.error())});
     return false;
 }
 

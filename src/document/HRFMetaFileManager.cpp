@@ -11,7 +11,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QUuid>
+
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -102,41 +105,59 @@ void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
 void HRFMetaFileManager::renameFiles(const std::vector<HRFMetaFile *> &files)
 {
     QHash<HRFObjectID, QString> names;
+    std::optional<HRFError> failure;
     for (const HRFMetaFile *file : files) {
         const auto source = file->url();
         if (!source)
             continue;
-        const QByteArray folder =
-            source->nativePath().first(source->nativePath().lastIndexOf('/') + 1);
-        const auto destination = HRFFileReference::fromNativePath(
-            folder + QFile::encodeName(file->fileInfo().fileName()));
-        const auto moved = m_fileManager.moveItemAtURL(*source, destination);
-        if (!moved) {
-            takeBackRename(moved.error());
-            names.insert(file->objectID(), source->displayName());
-            break;
+        QString name = source->displayName();
+        if (!failure) {
+            const auto moved = rename(*source, file->fileInfo().fileName());
+            if (moved)
+                name = moved->displayName();
+            else
+                failure = moved.error();
         }
-        names.insert(file->objectID(), moved->displayName());
+        names.insert(file->objectID(), name);
     }
-    if (names.isEmpty())
-        return;
-    m_document.performBlockInBackgroundContext([names](HRFPrivateContext &context) {
-        for (auto entry = names.begin(); entry != names.end(); ++entry)
-            if (auto *file = context.object<HRFMetaFile>(entry.key()))
-                file->fileInfo().setFileName(*entry);
-    });
+    if (failure) {
+        takeBackRename();
+        HRFUserInteraction::presentErrorLater(
+            {.domain = failure->domain,
+             .code = failure->code,
+             .description = failure->description,
+             .recoverySuggestion = tr("The operation was cancelled due to unresolved errors."),
+             .path = failure->path,
+             .underlying = std::make_shared<HRFError>(*failure)});
+    }
+    if (!names.isEmpty())
+        m_document.performBlockInBackgroundContext([names](HRFPrivateContext &context) {
+            for (auto entry = names.begin(); entry != names.end(); ++entry)
+                if (auto *file = context.object<HRFMetaFile>(entry.key()))
+                    file->fileInfo().setFileName(*entry);
+        });
 }
 
-/// What asked for the rename is undone, where it can be.
-void HRFMetaFileManager::takeBackRename(const HRFError &error)
+HRFResult<HRFFileReference> HRFMetaFileManager::rename(const HRFFileReference &file,
+                                                       const QString &name)
+{
+    const bool isName =
+        !name.isEmpty() && name != u"."_s && name != u".."_s && !name.contains(QChar(u'\0'));
+    if (isName)
+        return m_fileManager.moveItemAtURL(file, file.withDisplayName(name));
+    return std::unexpected(HRFError{
+        .domain = QString::fromLatin1(HRFPOSIXErrorDomain),
+        .code = EINVAL,
+        .description = tr("The file “%1” cannot be called “%2”").arg(file.displayName(), name),
+        .path = file.displayPath()});
+}
+
+/// What asked for the rename is undone, where it can be; the names are put right in any case.
+void HRFMetaFileManager::takeBackRename()
 {
     HRFMainContext &context = *managedObjectContext();
     context.processPendingChanges();
-    m_isTakingBackRename = true;
+    const QScopedValueRollback isTakingBack(m_isTakingBackRename, true);
     if (context.isUndoRegistrationEnabled() && !context.isUndoingOrRedoing())
-        context.undoManager().undo();
-    m_isTakingBackRename = false;
-    HRFError presented = error;
-    presented.recoverySuggestion = tr("The operation was cancelled due to unresolved errors.");
-    HRFUserInteraction::current().presentError(presented);
+        context.undo();
 }

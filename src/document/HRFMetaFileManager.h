@@ -74,6 +74,7 @@ private:
 
     // In the background:
     void runImport(const std::vector<HRFFoundFile> &files);
+    void saveImport();
     bool importFiles(const std::vector<HRFFoundFile> &files, QSet<QString> &imported);
     std::vector<HRFFoundFile> filesNotInList(const std::vector<HRFFoundFile> &files) const;
     Operations makeOperations(const std::vector<HRFFoundFile> &files,
@@ -90,7 +91,9 @@ private:
     void contextDidChange(const HRFContextChanges &changes);
     void updateTags(const std::vector<HRFObjectChange> &changes);
     void renameFiles(const std::vector<HRFMetaFile *> &files);
-    void takeBackRename(const HRFError &error);
+    [[nodiscard]] HRFResult<HRFFileReference> rename(const HRFFileReference &file,
+                                                     const QString &name);
+    void takeBackRename();
 
     HRFPlaylist &m_document;
     const QString m_databaseName;

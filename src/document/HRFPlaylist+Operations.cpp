@@ -11,7 +11,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <ranges>
 
 using namespace Qt::StringLiterals;
 using Wait = HRFMainThread::Wait;
@@ -25,9 +24,10 @@ void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext>
     HRFMainThread::run(
         [&] {
             const auto main = weakMain.lock();
-            const HRFResult<void> outcome = saved && main ? main->save() : saved;
-            if (!outcome)
-                HRFUserInteraction::current().presentError(outcome.error());
+            if (!main)
+                return; // the list is closed: there is nobody to miss anything
+            if (const HRFResult<void> outcome = saved ? main->save() : saved; !outcome)
+                HRFUserInteraction::presentErrorLater(outcome.error());
         },
         Wait::Yes);
 }
@@ -41,6 +41,18 @@ HRFPlaylist::Operations succeeded(const HRFPlaylist::Operations &operations)
 }
 
 } // namespace
+
+/// What the batches that have not ended are to write, by record.
+QHash<HRFObjectID, QSet<QString>> HRFPlaylist::tagsOfPendingWrites() const
+{
+    QHash<HRFObjectID, QSet<QString>> tags;
+    for (const auto &[number, batch] : m_batches)
+        for (const auto &operation : batch.operations)
+            if (const auto write = std::dynamic_pointer_cast<HRFTagWriteOperation>(operation))
+                for (const QString &tag : write->changedValues().keys())
+                    tags[write->objectID()].insert(tag);
+    return tags;
+}
 
 void HRFPlaylist::performBlockInBackgroundContext(std::function<void(HRFPrivateContext &)> block,
                                                   bool wait, std::function<void()> whenDone)
@@ -87,7 +99,7 @@ bool HRFPlaylist::enqueueOperationsForFiles(const std::vector<HRFMetaFile *> &fi
         return true;
     std::shared_ptr<HRFProgressWindowController> sheet;
     if (mode != HRFProgressDisplayMode::None) {
-        sheet = std::make_shared<HRFProgressWindowController>(progress);
+        sheet = HRFMainThread::makeShared<HRFProgressWindowController>(progress);
         sheet->showAsSheet(mode == HRFProgressDisplayMode::AtOnce ? std::chrono::milliseconds()
                                                                   : delay);
     }
@@ -109,34 +121,40 @@ void HRFPlaylist::runOperations(const Operations &operations, std::function<void
         progress->setTotalUnitCount(qlonglong(total));
     });
     queue.addOperations({operations.begin(), operations.end()}, false);
-    HRFBackground::run([self = QPointer(this), operations, whenDone = std::move(whenDone)] {
-        // The last first, which mostly is the last to finish: to be woken by each costs time.
-        for (const auto &operation : operations | std::views::reverse)
-            operation->waitUntilFinished();
+    const quint64 number = ++m_lastBatch;
+    m_batches.emplace(number, Batch{operations, std::move(whenDone)});
+    queue.addBarrierBlock([self = QPointer(this), number] {
         HRFMainThread::run(
-            [self, operations, whenDone] {
+            [self, number] {
                 if (self)
-                    self->operationsDidEnd(operations, whenDone);
-                else if (whenDone)
-                    whenDone();
+                    self->operationsDidEnd(self->m_batches.extract(number).mapped());
             },
             Wait::No);
     });
 }
 
-void HRFPlaylist::operationsDidEnd(const Operations &operations,
-                                   const std::function<void()> &whenDone)
+std::set<std::shared_ptr<HRFProgress>> HRFPlaylist::pendingProgresses() const
 {
-    const auto tellAll = [self = QPointer(this), operations, whenDone] {
-        if (whenDone)
-            whenDone();
+    std::set<std::shared_ptr<HRFProgress>> progresses;
+    for (const auto &[number, batch] : m_batches)
+        for (const auto &operation : batch.operations)
+            if (auto progress = operation->progress())
+                progresses.insert(std::move(progress));
+    return progresses;
+}
+
+void HRFPlaylist::operationsDidEnd(const Batch &batch)
+{
+    const auto tellAll = [self = QPointer(this), batch] {
+        if (batch.whenDone)
+            batch.whenDone();
         if (self)
-            Q_EMIT self->fileOperationsDidEnd(operations);
+            Q_EMIT self->fileOperationsDidEnd(batch.operations);
     };
     if (m_shouldClose)
         tellAll();
     else
-        handleCompletedFileWriteOperations(succeeded(operations), tellAll);
+        handleCompletedFileWriteOperations(succeeded(batch.operations), tellAll);
 }
 
 void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operations,
@@ -148,10 +166,11 @@ void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operation
         return;
     }
     performBlockInBackgroundContext(
-        [operations](HRFPrivateContext &context) {
+        [operations, newerTags = tagsOfPendingWrites()](HRFPrivateContext &context) {
             for (const auto &operation : operations)
                 if (auto *file = context.object<HRFMetaFile>(operation->objectID()))
-                    HRFUpdateWithOperation(*file, *operation);
+                    HRFUpdateWithOperation(*file, *operation,
+                                           newerTags.value(operation->objectID()));
         },
         false,
         [self = QPointer(this), whenDone = std::move(whenDone)] {

@@ -119,7 +119,7 @@ void HRFPlaylist::remove()
     context.disableUndoRegistration();
     m_fileController->removeSelectedObjects();
     context.processPendingChanges();
-    context.undoManager().clear();
+    context.removeAllUndoActions();
     if (m_window)
         m_window->focusFilterFieldIfNeeded();
 }
@@ -132,7 +132,7 @@ void HRFPlaylist::clear()
         m_fileController->clearFilter();
         m_fileController->removeArrangedObjects();
     }
-    context.undoManager().clear();
+    context.removeAllUndoActions();
     if (m_window) {
         m_window->clearFilterField();
         m_window->focusInitialControl();
@@ -156,13 +156,26 @@ void HRFPlaylist::strip()
                      .isDestructive = true},
                     {.title = tr("Cancel"), .role = HRFAnswerRole::Cancel}},
         .isCritical = true};
-    if (HRFUserInteraction::current().runAlert(alert).button == 0)
-        stripTags();
+    // While the question is on the screen, the selection may change, and records may go.
+    std::vector<HRFObjectID> confirmed;
+    for (const HRFMetaFile *file : files)
+        confirmed.push_back(file->objectID());
+    if (HRFUserInteraction::current().runAlert(alert).button != 0)
+        return;
+    std::vector<HRFMetaFile *> present;
+    for (const HRFObjectID objectID : confirmed)
+        if (auto *file = managedObjectContext().object<HRFMetaFile>(objectID))
+            present.push_back(file);
+    stripTagsOfFiles(present);
 }
 
 void HRFPlaylist::stripTags()
 {
-    const std::vector<HRFMetaFile *> files = selectedFiles();
+    stripTagsOfFiles(selectedFiles());
+}
+
+void HRFPlaylist::stripTagsOfFiles(const std::vector<HRFMetaFile *> &files)
+{
     const auto progress = std::make_shared<HRFProgress>(qlonglong(files.size()));
     progress->setLocalizedDescription(tr("Strip Tags"));
     enqueueOperationsForFiles(

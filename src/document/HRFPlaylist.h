@@ -7,7 +7,9 @@
 #include <QObject>
 
 #include <functional>
+#include <map>
 #include <memory>
+#include <set>
 #include <vector>
 
 class HRFDocumentController;
@@ -41,7 +43,9 @@ public:
     HRFArrayController &fileController() { return *m_fileController; }
     std::vector<HRFMetaFile *> selectedFiles() const;
     std::vector<HRFMetaFile *> arrangedFiles() const;
-    QUndoStack &undoManager() const { return managedObjectContext().undoManager(); }
+    const QUndoStack &undoManager() const { return managedObjectContext().undoManager(); }
+    void undo() { managedObjectContext().undo(); }
+    void redo() { managedObjectContext().redo(); }
 
     /// The window must outlive the list; nullptr for none.
     void setWindow(HRFPlaylistWindow *window) { m_window = window; }
@@ -85,6 +89,8 @@ public:
                                    HRFProgressDisplayMode mode, const OperationMaker &block);
     /// Queues operations, and refreshes the records of those that succeed.
     void runOperations(const Operations &operations, std::function<void()> whenDone = {});
+    /// The progresses of the batches that have not ended.
+    std::set<std::shared_ptr<HRFProgress>> pendingProgresses() const;
     /// Refreshes the records of operations that have succeeded.
     void handleCompletedFileWriteOperations(const Operations &operations,
                                             std::function<void()> whenDone = {});
@@ -94,12 +100,22 @@ Q_SIGNALS:
     void fileOperationsDidEnd(const HRFPlaylist::Operations &operations);
 
 private:
+    void stripTagsOfFiles(const std::vector<HRFMetaFile *> &files);
     void fileManagerDidImport(const std::optional<QSet<QString>> &fileURLs);
-    void operationsDidEnd(const Operations &operations, const std::function<void()> &whenDone);
+    /// Operations that were queued together, and what is to be done when all have ended.
+    struct Batch
+    {
+        Operations operations;
+        std::function<void()> whenDone;
+    };
+    void operationsDidEnd(const Batch &batch);
+    QHash<HRFObjectID, QSet<QString>> tagsOfPendingWrites() const;
 
     HRFDocumentController &m_documents;
     std::unique_ptr<HRFMetaFileManager> m_fileManager;
     std::unique_ptr<HRFArrayController> m_fileController;
     HRFPlaylistWindow *m_window = nullptr;
     bool m_shouldClose = false;
+    std::map<quint64, Batch> m_batches; ///< those that have not ended, by number
+    quint64 m_lastBatch = 0;
 };

@@ -24,6 +24,16 @@ Counter &counter()
     return *theCounter;
 }
 
+void count(int step)
+{
+    {
+        const std::lock_guard lock(counter().mutex);
+        counter().running += step;
+    }
+    counter().isIdle.notify_all();
+    HRFMainThread::wakeUp();
+}
+
 bool isIdle()
 {
     const std::lock_guard lock(counter().mutex);
@@ -36,20 +46,18 @@ bool isIdle()
 /// each other could keep each other from running.
 void run(std::function<void()> block)
 {
-    {
-        const std::lock_guard lock(counter().mutex);
-        ++counter().running;
-    }
-    std::thread([block = std::move(block)]() mutable {
+    auto work = [block = std::move(block)]() mutable {
         HRFMainThread::runLoggingFailures(block);
         block = nullptr; // what it holds is gone before it counts as done
-        {
-            const std::lock_guard lock(counter().mutex);
-            --counter().running;
-        }
-        counter().isIdle.notify_all();
-        HRFMainThread::wakeUp();
-    }).detach();
+        count(-1);
+    };
+    count(1);
+    try {
+        std::thread(std::move(work)).detach();
+    } catch (...) { // the system has no more threads
+        count(-1);
+        throw;
+    }
 }
 
 void waitUntilIdle()
@@ -69,11 +77,17 @@ void HRFBackgroundGroup::waitUntilIdle()
 
 void HRFBackgroundGroup::run(std::function<void()> block)
 {
-    ++m_running;
-    HRFBackground::run([this, block = std::move(block)]() mutable {
+    auto work = [this, block = std::move(block)]() mutable {
         HRFMainThread::runLoggingFailures(block);
         block = nullptr;
         --m_running; // the group may be gone from here on
         HRFMainThread::wakeUp();
-    });
+    };
+    ++m_running;
+    try {
+        HRFBackground::run(std::move(work));
+    } catch (...) {
+        --m_running;
+        throw;
+    }
 }

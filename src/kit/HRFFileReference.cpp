@@ -60,6 +60,22 @@ QByteArray HRFFileReference::lowerCaseExtension() const
     return dot > 0 ? name.sliced(dot + 1).toByteArray().toLower() : QByteArray();
 }
 
+HRFFileReference HRFFileReference::withDisplayName(const QString &name) const
+{
+    const qsizetype nameStart = m_nativePath.lastIndexOf('/') + 1;
+    const QByteArray oldName = m_nativePath.sliced(nameStart);
+    const auto baseOf = [](const auto &whole) {
+        const qsizetype dot = whole.lastIndexOf('.');
+        return dot > 0 ? whole.first(dot) : whole;
+    };
+    QByteArray newName = QFile::encodeName(name);
+    const QByteArray newBase = baseOf(newName);
+    if (const QByteArray oldBase = baseOf(oldName);
+        QString::fromUtf8(oldBase) == QString::fromUtf8(newBase))
+        newName.replace(0, newBase.size(), oldBase);
+    return fromNativePath(m_nativePath.first(nameStart) + newName);
+}
+
 bool HRFFileReference::isValidUtf8() const
 {
     return m_nativePath.isValidUtf8();

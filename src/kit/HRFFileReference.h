@@ -27,6 +27,9 @@ public:
     /// What follows the last "." of the last path component, without the dot and in lower case;
     /// empty when there is no dot but a leading one.
     QByteArray lowerCaseExtension() const;
+    /// Another item of the same folder, called as the user says. What of the name stands before the
+    /// last "." and is the same as in this one's displayName keeps its bytes.
+    HRFFileReference withDisplayName(const QString &name) const;
     bool isValidUtf8() const;
 
     friend bool operator==(const HRFFileReference &, const HRFFileReference &) = default;

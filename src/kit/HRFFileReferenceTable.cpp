@@ -3,11 +3,14 @@
 #include <QHash>
 #include <QSet>
 
+#include <chrono>
 #include <cstdlib>
 #include <dirent.h>
+#include <fcntl.h>
 #include <memory>
 #include <mutex>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +31,16 @@ struct Identity
     }
 };
 
+/// An existing file. File systems give the inode of a deleted file to the next one made, so that
+/// only the time of its birth tells a file from the one before it.
+struct File
+{
+    Identity identity{};
+    qint64 birth = 0; ///< nanoseconds since 1970; 0 where the file system keeps none
+
+    friend bool operator==(const File &, const File &) = default;
+};
+
 /// A path in two halves, so that the files of one folder share the first.
 struct Place
 {
@@ -44,34 +57,73 @@ struct Place
     friend bool operator==(const Place &, const Place &) = default;
 };
 
+/// A file that has a reference.
+struct Known
+{
+    Place place;
+    qint64 birth = 0;
+    quint32 generation = 1; ///< counts the files that have had the inode
+};
+
+/// Names a known file: its identity, and which of the files that have had it.
+struct Reference
+{
+    Identity identity;
+    quint32 generation = 1;
+};
+
+std::optional<File> fileAt(const QByteArray &path);
+
 /// Every file of every open list stands here, so an entry is small.
 class Table
 {
 public:
     static Table &shared()
     {
-        static Table table;
-        return table;
+        static auto *const table = new Table; // threads may ask until the very end
+        return *table;
     }
 
-    void insert(const Identity &identity, const Place &place)
+    /// The reference of a file that was found at a place.
+    Reference insert(const File &file, const Place &place)
     {
         const std::lock_guard guard(m_lock);
-        m_places.insert(identity, withSharedFolder(place));
+        const auto found = m_files.find(file.identity);
+        if (found == m_files.end()) {
+            m_files.insert(file.identity, {withSharedFolder(place), file.birth});
+            return {file.identity};
+        }
+        const bool isAnother = found->birth != file.birth;
+        if (isAnother)
+            ++found->generation;
+        found->birth = file.birth;
+        // The path of a file that has several is the one that was known first.
+        if (isAnother || (found->place != place && fileAt(found->place.path()) != file))
+            found->place = withSharedFolder(place);
+        return {file.identity, found->generation};
     }
-    std::optional<Place> place(const Identity &identity) const
+    std::optional<Known> find(const Reference &reference) const
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_places.constFind(identity);
-        return found == m_places.cend() ? std::nullopt : std::optional(*found);
+        const auto found = m_files.constFind(reference.identity);
+        return found == m_files.cend() || found->generation != reference.generation
+            ? std::nullopt
+            : std::optional(*found);
     }
     /// Unless another thread has put the file elsewhere meanwhile.
     void replace(const Identity &identity, const Place &oldPlace, const Place &newPlace)
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_places.find(identity);
-        if (found != m_places.end() && *found == oldPlace)
-            *found = withSharedFolder(newPlace);
+        const auto found = m_files.find(identity);
+        if (found != m_files.end() && found->place == oldPlace)
+            found->place = withSharedFolder(newPlace);
+    }
+    /// Whatever file has the identity now.
+    std::optional<Place> placeOf(const Identity &identity) const
+    {
+        const std::lock_guard guard(m_lock);
+        const auto found = m_files.constFind(identity);
+        return found == m_files.cend() ? std::nullopt : std::optional(found->place);
     }
 
 private:
@@ -81,21 +133,21 @@ private:
     }
 
     mutable std::mutex m_lock; ///< guards what follows
-    QHash<Identity, Place> m_places;
+    QHash<Identity, Known> m_files;
     QSet<QByteArray> m_folders;
 };
 
-Identity identityOf(const struct stat &status)
+std::optional<File> fileAt(const QByteArray &path)
 {
-    return {status.st_dev, status.st_ino};
-}
-
-std::optional<Identity> identityAt(const QByteArray &path)
-{
-    struct stat status = {};
-    if (::stat(path.constData(), &status) != 0)
+    struct statx status = {};
+    if (::statx(AT_FDCWD, path.constData(), AT_STATX_SYNC_AS_STAT, STATX_INO | STATX_BTIME, &status)
+        != 0)
         return {};
-    return identityOf(status);
+    constexpr qint64 nanosecondsPerSecond = 1'000'000'000;
+    const bool hasBirth = status.stx_mask & STATX_BTIME;
+    return File{{::makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino},
+                hasBirth ? status.stx_btime.tv_sec * nanosecondsPerSecond + status.stx_btime.tv_nsec
+                         : 0};
 }
 
 /// The working folder may be another one later.
@@ -107,31 +159,24 @@ QByteArray absolutePath(const QByteArray &path)
     return folder ? QByteArray(folder.get()) + '/' + path : path;
 }
 
-QString referenceURL(const Identity &identity)
+QString referenceURL(const Reference &reference)
 {
-    return referencePrefix + QString::number(identity.device) + u'.'
-        + QString::number(identity.inode);
+    const QString url = referencePrefix + QString::number(reference.identity.device) + u'.'
+        + QString::number(reference.identity.inode);
+    return reference.generation == 1 ? url : url + u'.' + QString::number(reference.generation);
 }
 
-std::optional<Identity> identityFromURL(QStringView url)
+std::optional<Reference> referenceFromURL(QStringView url)
 {
-    const QStringView numbers = url.sliced(referencePrefix.size());
-    const qsizetype dot = numbers.indexOf(u'.');
+    const auto numbers = url.sliced(referencePrefix.size()).split(u'.');
+    if (numbers.size() < 2 || numbers.size() > 3)
+        return {};
     bool isDevice = false;
     bool isInode = false;
-    const Identity identity{numbers.first(qMax<qsizetype>(dot, 0)).toULongLong(&isDevice),
-                            numbers.sliced(dot + 1).toULongLong(&isInode)};
-    return isDevice && isInode ? std::optional(identity) : std::nullopt;
-}
-
-/// Whether a folder's entry is the file. Most entries are ruled out without asking for each.
-bool isFile(DIR *folder, const dirent &entry, const Identity &identity)
-{
-    const bool isElsewhere = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
-    struct stat status = {};
-    return (entry.d_ino == identity.inode || isElsewhere)
-        && ::fstatat(::dirfd(folder), entry.d_name, &status, 0) == 0
-        && identityOf(status) == identity;
+    bool isGeneration = true;
+    const Reference reference{{numbers[0].toULongLong(&isDevice), numbers[1].toULongLong(&isInode)},
+                              numbers.size() == 3 ? numbers[2].toUInt(&isGeneration) : 1};
+    return isDevice && isInode && isGeneration ? std::optional(reference) : std::nullopt;
 }
 
 struct FolderCloser
@@ -139,26 +184,69 @@ struct FolderCloser
     void operator()(DIR *folder) const { ::closedir(folder); }
 };
 
-std::optional<Place> findInFolder(const QByteArray &path, const Identity &identity)
+/// The names in a folder. The listing used last is kept, since many files of a folder may be looked
+/// for one after the other.
+class FolderListing
 {
-    const std::unique_ptr<DIR, FolderCloser> folder(::opendir(path.constData()));
-    while (const dirent *entry = folder ? ::readdir(folder.get()) : nullptr)
-        if (isFile(folder.get(), *entry, identity))
-            return Place{path, entry->d_name};
-    return {};
-}
+public:
+    static std::optional<Place> find(const QByteArray &folder, const File &file)
+    {
+        static std::mutex lock; // guards the listing
+        static FolderListing listing;
+        const std::lock_guard guard(lock);
+        if (listing.m_folder != folder || !listing.isUpToDate())
+            listing = FolderListing(folder);
+        for (const QByteArray &name :
+             listing.m_namesByInode.values(file.identity.inode) + listing.m_links)
+            if (fileAt(folder + name) == file)
+                return Place{folder, name};
+        return {};
+    }
 
-std::optional<HRFFileReference> fileWithIdentity(const Identity &identity)
+private:
+    FolderListing() = default;
+    explicit FolderListing(const QByteArray &path) : m_folder(path), m_changed(timeOfChange(path))
+    {
+        const std::unique_ptr<DIR, FolderCloser> folder(::opendir(path.constData()));
+        while (const dirent *entry = folder ? ::readdir(folder.get()) : nullptr) {
+            if (entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN)
+                m_links.append(entry->d_name);
+            else
+                m_namesByInode.insert(entry->d_ino, entry->d_name);
+        }
+        // Changes that follow each other quickly may bear the same time.
+        constexpr auto tick = std::chrono::milliseconds(100);
+        m_isSettled = std::chrono::system_clock::now().time_since_epoch() > m_changed + tick;
+    }
+
+    bool isUpToDate() const { return m_isSettled && timeOfChange(m_folder) == m_changed; }
+    static std::chrono::nanoseconds timeOfChange(const QByteArray &folder)
+    {
+        struct stat status = {};
+        ::stat(folder.constData(), &status);
+        return std::chrono::seconds(status.st_mtim.tv_sec)
+            + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+    }
+
+    QByteArray m_folder;
+    std::chrono::nanoseconds m_changed{};
+    bool m_isSettled = false;
+    QMultiHash<quint64, QByteArray> m_namesByInode;
+    QByteArrayList m_links; ///< names of which the inode is not that of the file
+};
+
+std::optional<HRFFileReference> fileWithReference(const Reference &reference)
 {
-    const std::optional<Place> known = Table::shared().place(identity);
+    const std::optional<Known> known = Table::shared().find(reference);
     if (!known)
         return {};
-    if (identityAt(known->path()) == identity)
-        return HRFFileReference::fromNativePath(known->path());
-    const std::optional<Place> found = findInFolder(known->folder, identity);
+    const File file{reference.identity, known->birth};
+    if (fileAt(known->place.path()) == file)
+        return HRFFileReference::fromNativePath(known->place.path());
+    const std::optional<Place> found = FolderListing::find(known->place.folder, file);
     if (!found)
         return {};
-    Table::shared().replace(identity, *known, *found);
+    Table::shared().replace(reference.identity, known->place, *found);
     return HRFFileReference::fromNativePath(found->path());
 }
 
@@ -166,18 +254,18 @@ std::optional<HRFFileReference> fileWithIdentity(const Identity &identity)
 
 std::optional<QString> HRFFileReferenceTable::referenceURLForFile(const HRFFileReference &file)
 {
-    const std::optional<Identity> identity = identityAt(file.nativePath());
-    if (!identity)
+    const std::optional<File> present = fileAt(file.nativePath());
+    if (!present)
         return {};
-    Table::shared().insert(*identity, Place::of(absolutePath(file.nativePath())));
-    return referenceURL(*identity);
+    return referenceURL(
+        Table::shared().insert(*present, Place::of(absolutePath(file.nativePath()))));
 }
 
 std::optional<HRFFileReference> HRFFileReferenceTable::fileForURL(const QString &url)
 {
     if (url.startsWith(referencePrefix)) {
-        const std::optional<Identity> identity = identityFromURL(url);
-        return identity ? fileWithIdentity(*identity) : std::nullopt;
+        const std::optional<Reference> reference = referenceFromURL(url);
+        return reference ? fileWithReference(*reference) : std::nullopt;
     }
     const QUrl pathURL(url);
     return pathURL.isLocalFile() ? std::optional(HRFFileReference::fromUrl(pathURL)) : std::nullopt;
@@ -193,20 +281,21 @@ std::optional<QString> HRFFileReferenceTable::lastKnownFolderForURL(const QStrin
         const auto file = fileForURL(url);
         return file ? std::optional(folderOf(Place::of(file->nativePath()))) : std::nullopt;
     }
-    const std::optional<Identity> identity = identityFromURL(url);
-    const auto known = identity ? Table::shared().place(*identity) : std::nullopt;
-    return known ? std::optional(folderOf(*known)) : std::nullopt;
+    const std::optional<Reference> reference = referenceFromURL(url);
+    const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
+    return known ? std::optional(folderOf(known->place)) : std::nullopt;
 }
 
 void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFFileReference &to)
 {
-    const std::optional<Identity> identity = identityAt(to.nativePath());
-    const std::optional<Place> known = identity ? Table::shared().place(*identity) : std::nullopt;
+    const std::optional<File> file = fileAt(to.nativePath());
+    const std::optional<Place> known =
+        file ? Table::shared().placeOf(file->identity) : std::nullopt;
     if (!known)
         return;
     // A hard link that was moved is not where the file is known to be.
     const bool hasMoved =
-        known->path() == absolutePath(from.nativePath()) || identityAt(known->path()) != identity;
+        known->path() == absolutePath(from.nativePath()) || fileAt(known->path()) != file;
     if (hasMoved)
-        Table::shared().replace(*identity, *known, Place::of(absolutePath(to.nativePath())));
+        Table::shared().replace(file->identity, *known, Place::of(absolutePath(to.nativePath())));
 }

@@ -7,14 +7,16 @@
 #include <optional>
 
 /// Files by identity: a reference URL names a file by device and inode
-/// ("file:///.file/id=DEVICE.INODE", decimal), whatever it is called.
+/// ("file:///.file/id=DEVICE.INODE", decimal), whatever it is called. A file that was given the
+/// inode of a deleted one, which its time of birth tells, has another reference (".2" at its end,
+/// and so on).
 ///
 /// The table remembers the last known path of every reference that it made. All members may be
 /// called from any thread.
 namespace HRFFileReferenceTable {
 
 /// The reference URL of an existing file; nothing when it cannot be examined. Hard links of one
-/// file have one reference.
+/// file have one reference, which leads to the one that was asked for first.
 std::optional<QString> referenceURLForFile(const HRFFileReference &file);
 
 /// The present path of the file with a reference URL: the last known path when that still is the

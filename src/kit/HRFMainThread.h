@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <utility>
 
 /// Blocks of work for the main thread, from whatever thread.
 ///
@@ -24,6 +26,18 @@ void serveUntil(const std::function<bool()> &condition);
 
 /// Lets serveUntil look at its condition again.
 void wakeUp();
+
+/// An object of the main thread that other threads may hold: it is destroyed on the main thread,
+/// whoever lets go of it last.
+template <class T, class... Arguments> std::shared_ptr<T> makeShared(Arguments &&...arguments)
+{
+    return std::shared_ptr<T>(new T(std::forward<Arguments>(arguments)...), [](T *object) {
+        if (isCurrent())
+            delete object;
+        else
+            run([object] { delete object; }, Wait::No);
+    });
+}
 
 /// Logs what a block threw that nobody waits for.
 void runLoggingFailures(const std::function<void()> &block);

@@ -1,6 +1,7 @@
 #include "kit/HRFUserInteraction.h"
 
 #include "kit/HRFAssert.h"
+#include "kit/HRFMainThread.h"
 
 namespace {
 
@@ -17,4 +18,9 @@ HRFUserInteraction &HRFUserInteraction::current()
 void HRFUserInteraction::setCurrent(HRFUserInteraction *interaction)
 {
     currentInteraction = interaction;
+}
+
+void HRFUserInteraction::presentErrorLater(const HRFError &error)
+{
+    HRFMainThread::run([error] { current().presentError(error); }, HRFMainThread::Wait::No);
 }

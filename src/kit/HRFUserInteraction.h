@@ -89,6 +89,10 @@ public:
     /// The interaction must outlive its use; nullptr takes it away.
     static void setCurrent(HRFUserInteraction *interaction);
 
+    /// Presents an error when the main thread comes round to it, for those whom somebody waits for.
+    /// From any thread.
+    static void presentErrorLater(const HRFError &error);
+
     /// Asks a question and waits for the answer.
     virtual HRFAlertAnswer runAlert(const HRFAlert &alert) = 0;
     /// Shows an error with its recovery options, or with "OK" where it has none. Carries out the

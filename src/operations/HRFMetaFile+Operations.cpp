@@ -4,6 +4,7 @@
 #include "store/HRFAudioProperties.h"
 #include "store/HRFFileSnapshot.h"
 #include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
 #include "store/HRFSystemFile.h"
 #include "tags/HRFTagEngine.h"
 
@@ -13,13 +14,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void readAnew(HRFMetaFile &file, const HRFFileReference &url)
+void readAnew(HRFMetaFile &file, const HRFFileReference &url, const QSet<QString> &newerTags)
 {
     const auto engine = HRFTagEngine::initWithURL(url, true);
-    if (engine)
-        file.importValues(HRFFileSnapshot::of(**engine));
-    else
-        qWarning("%s", qUtf8Printable(engine.error().fullText()));
+    if (!engine)
+        return qWarning("%s", qUtf8Printable(engine.error().fullText()));
+    HRFFileSnapshot snapshot = HRFFileSnapshot::of(**engine);
+    for (const QString &name : newerTags) {
+        const HRFMetaTags &tags = file.tags();
+        if (const HRFAttributeDescription *tag = tags.entity().attributeNamed(name))
+            snapshot.tags.setValue(tag->index, tags.value(tag->index));
+    }
+    file.importValues(snapshot);
 }
 
 void takeValues(HRFManagedObject &object, const QHash<QString, QVariant> &values)
@@ -40,10 +46,11 @@ void takeResults(HRFMetaFile &file, const HRFTagWriteOperation &operation)
 
 } // namespace
 
-void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation)
+void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation,
+                            const QSet<QString> &newerTags)
 {
     if (dynamic_cast<const HRFStripTagsOperation *>(&operation))
-        return readAnew(file, operation.fileURL());
+        return readAnew(file, operation.fileURL(), newerTags);
     if (const auto *write = dynamic_cast<const HRFTagWriteOperation *>(&operation))
         takeResults(file, *write);
     file.fileInfo().updateAttributesForItemAtURL(operation.fileURL());

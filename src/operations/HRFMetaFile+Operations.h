@@ -1,7 +1,13 @@
 #pragma once
 
+#include <QSet>
+#include <QString>
+
 class HRFFileOperation;
 class HRFMetaFile;
 
 /// Refreshes a record of a private context from an operation that has succeeded on its file.
-void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation);
+///
+/// @param newerTags tags that were edited since, and are not in the file yet: they stay
+void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation,
+                            const QSet<QString> &newerTags = {});

@@ -104,12 +104,23 @@ void HRFTagWriteOperation::main()
     setSucceeded(true);
 }
 
+/// A file that is renamed while this works on it is tried again under its new name.
 HRFResult<void> HRFTagWriteOperation::write()
 {
-    const HRFResult<HRFFileReference> file = findFile();
-    if (!file)
-        return std::unexpected(file.error());
-    const auto engine = HRFTagEngine::initWithURL(*file);
+    HRFResult<HRFFileReference> file = findFile();
+    while (file) {
+        HRFResult<void> written = write(*file);
+        const HRFFileReference tried = *file;
+        file = findFile();
+        if (written || !file || *file == tried)
+            return written;
+    }
+    return std::unexpected(file.error());
+}
+
+HRFResult<void> HRFTagWriteOperation::write(const HRFFileReference &file)
+{
+    const auto engine = HRFTagEngine::initWithURL(file);
     if (!engine)
         return std::unexpected(engine.error());
     HRFResult<void> written = updateEngine(**engine);

@@ -39,6 +39,7 @@ protected:
 
 private:
     [[nodiscard]] HRFResult<void> write();
+    [[nodiscard]] HRFResult<void> write(const HRFFileReference &file);
     HRFError offeringToFixPermissions(const HRFError &error);
     bool presentSolver(HRFErrorSolver &solver, const HRFError &error);
     bool askWhetherToContinue(const HRFError &error);

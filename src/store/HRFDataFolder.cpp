@@ -1,5 +1,7 @@
 #include "store/HRFDataFolder.h"
 
+#include "kit/HRFAssert.h"
+
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
@@ -18,15 +20,19 @@ QString currentFolder; // set on the main thread, before there are others
 
 constexpr mode_t forTheOwner = 0700;
 
-/// The descriptor of the locked file in a folder; -1 when another process holds the lock, or when
-/// the file cannot be opened.
+/// The descriptor of the locked file in a folder; -1, and errno says why, when another process
+/// holds the lock, or when the file cannot be opened.
 int lockFolder(const QString &path, bool waits)
 {
     constexpr mode_t mode = 0600;
     const QByteArray file = QFile::encodeName(path + u"/lock"_s);
     const int descriptor =
         ::open(file.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, mode);
-    if (descriptor < 0 || ::flock(descriptor, LOCK_EX | (waits ? 0 : LOCK_NB)) == 0)
+    int outcome = descriptor;
+    while (outcome >= 0 && (outcome = ::flock(descriptor, LOCK_EX | (waits ? 0 : LOCK_NB))) != 0
+           && errno == EINTR)
+        outcome = descriptor;
+    if (descriptor < 0 || outcome == 0)
         return descriptor;
     const int reason = errno;
     ::close(descriptor);
@@ -80,7 +86,8 @@ HRFDataFolder::~HRFDataFolder()
     if (m_isTemporary)
         QDir(m_path).removeRecursively();
     ::close(m_lock);
-    currentFolder.clear();
+    if (currentFolder == m_path)
+        currentFolder.clear();
 }
 
 QString HRFDataFolder::userFolder()
@@ -90,7 +97,8 @@ QString HRFDataFolder::userFolder()
 
 QString HRFDataFolder::current()
 {
-    return currentFolder.isEmpty() ? userFolder() : currentFolder;
+    HRFRequire(!currentFolder.isEmpty(), "HRFDataFolder::take");
+    return currentFolder;
 }
 
 HRFResult<std::unique_ptr<HRFDataFolder>> HRFDataFolder::take(const QString &path)
@@ -115,15 +123,24 @@ HRFResult<std::unique_ptr<HRFDataFolder>> HRFDataFolder::takeTemporary()
         return std::unexpected(folderError(parent, u"The folder cannot be used."_s, EACCES));
     // Held while folders come and go: one just made is not locked yet.
     const int parentLock = lockFolder(parent, true);
+    if (parentLock < 0)
+        return std::unexpected(folderError(parent, u"The folder cannot be used."_s, errno));
     removeLeftovers(parent);
+    auto taken = makeTemporary(parent);
+    ::close(parentLock);
+    return taken;
+}
+
+HRFResult<std::unique_ptr<HRFDataFolder>> HRFDataFolder::makeTemporary(const QString &parent)
+{
     QByteArray name = QFile::encodeName(parent + u"/XXXXXX"_s);
     const bool isMade = ::mkdtemp(name.data()) != nullptr;
-    const int failure = errno;
     const QString path = QFile::decodeName(name);
     const int lock = isMade ? lockFolder(path, false) : -1;
-    if (parentLock >= 0)
-        ::close(parentLock);
-    if (lock < 0)
-        return std::unexpected(folderError(path, u"The folder cannot be made."_s, failure));
-    return std::unique_ptr<HRFDataFolder>(new HRFDataFolder(path, lock, true));
+    if (lock >= 0)
+        return std::unique_ptr<HRFDataFolder>(new HRFDataFolder(path, lock, true));
+    const int reason = errno;
+    if (isMade)
+        QDir(path).removeRecursively();
+    return std::unexpected(folderError(path, u"The folder cannot be made."_s, reason));
 }

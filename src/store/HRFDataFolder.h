@@ -27,14 +27,15 @@ public:
     /// Such folders of programs that were killed are removed now.
     [[nodiscard]] static HRFResult<std::unique_ptr<HRFDataFolder>> takeTemporary();
 
-    /// The folder in which the stores of this process are: the one taken last, and userFolder
-    /// before.
+    /// The folder in which the stores of this process are: the one taken last. There must be one
+    /// (assertion "HRFDataFolder::take").
     static QString current();
 
     QString path() const { return m_path; }
 
 private:
     HRFDataFolder(QString path, int lock, bool isTemporary);
+    static HRFResult<std::unique_ptr<HRFDataFolder>> makeTemporary(const QString &parent);
 
     QString m_path;
     int m_lock; ///< descriptor of the locked file

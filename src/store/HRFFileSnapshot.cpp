@@ -51,7 +51,7 @@ QDateTime dateOf(const statx_timestamp &time)
 
 QString folderOf(const HRFFileReference &file)
 {
-    const QString path = file.displayPath();
+    const QString path = QFileInfo(file.displayPath()).absoluteFilePath();
     return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
 }
 

@@ -4,6 +4,7 @@
 #include "kit/HRFMainThread.h"
 #include "store/HRFObjectStore.h"
 
+#include <QScopedValueRollback>
 #include <QUndoCommand>
 
 #include <algorithm>
@@ -40,13 +41,12 @@ public:
 private:
     template <class Value> void apply(Value value)
     {
-        m_context.processPendingChanges();
-        m_context.m_isUndoing = true;
+        HRFRequire(!m_context.hasPendingChanges(), "!hasPendingChanges");
+        const QScopedValueRollback isUndoing(m_context.m_isUndoing, true);
         for (const Change &change : m_changes)
             if (HRFManagedObject *object = m_context.object(change.objectID))
                 object->setValue(change.property, value(change));
         m_context.processPendingChanges();
-        m_context.m_isUndoing = false;
     }
 
     HRFMainContext &m_context;
@@ -112,6 +112,7 @@ void HRFMainContext::adopt(std::unique_ptr<HRFManagedObject> object)
 
 HRFManagedObject &HRFMainContext::insert(const HRFEntityDescription &entity)
 {
+    HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     const HRFObjectID objectID = m_store->newObjectID();
     {
         const std::lock_guard lock(m_lock);
@@ -136,6 +137,7 @@ void HRFMainContext::noteUnsaved(HRFObjectID objectID)
 
 void HRFMainContext::remove(HRFManagedObject &object)
 {
+    HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     const HRFObjectID objectID = object.objectID();
     {
         const std::lock_guard lock(m_lock);
@@ -148,7 +150,7 @@ void HRFMainContext::remove(HRFManagedObject &object)
 void HRFMainContext::setValue(HRFManagedObject &object, int property, const QVariant &value)
 {
     HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
-    if (m_registersUndo && !m_isUndoing)
+    if (m_registersUndo && !m_isUndoing && !object.entity().isRelationship(property))
         m_oldValues.push_back({object.objectID(), property, object.value(property)});
     {
         const std::lock_guard lock(m_lock);
@@ -183,11 +185,12 @@ void HRFMainContext::processPendingChanges()
 
 void HRFMainContext::registerUndo()
 {
+    const std::unordered_set<HRFObjectID> isNew(m_inserted.begin(), m_inserted.end());
     std::set<std::pair<HRFObjectID, int>> seen;
     std::vector<HRFEditCommand::Change> changes;
     for (OldValue &old : std::exchange(m_oldValues, {}))
         if (HRFManagedObject *changed = object(old.objectID); changed
-            && seen.emplace(old.objectID, old.property).second
+            && !isNew.contains(old.objectID) && seen.emplace(old.objectID, old.property).second
             && changed->value(old.property) != old.value)
             changes.push_back(
                 {old.objectID, old.property, std::move(old.value), changed->value(old.property)});
@@ -206,7 +209,24 @@ void HRFMainContext::tell(bool isFromBackground)
         changes.deleted.push_back(object.get());
     changes.isFromBackground = isFromBackground;
     if (!changes.isEmpty())
-        Q_EMIT objectsDidChange(changes);
+        HRFMainThread::runLoggingFailures([&] { Q_EMIT objectsDidChange(changes); });
+}
+
+bool HRFMainContext::hasPendingChanges() const
+{
+    return !m_inserted.empty() || !m_updated.empty() || !m_deleted.empty();
+}
+
+void HRFMainContext::undo()
+{
+    processPendingChanges();
+    m_undoManager.undo();
+}
+
+void HRFMainContext::redo()
+{
+    processPendingChanges();
+    m_undoManager.redo();
 }
 
 /// Objects inserted and deleted within one event are not told of, new ones not as updated.
@@ -226,16 +246,25 @@ HRFContextChanges HRFMainContext::takeChanges()
     return changes;
 }
 
-bool HRFMainContext::copyObject(HRFObjectID objectID, const HRFEntityDescription *&entity,
-                                HRFValues &values) const
+std::vector<HRFMainContext::Copy> HRFMainContext::copyObject(HRFObjectID objectID) const
 {
     const std::lock_guard lock(m_lock);
+    std::vector<Copy> copies;
+    copyObject(objectID, copies);
+    return copies;
+}
+
+/// With the lock held.
+void HRFMainContext::copyObject(HRFObjectID objectID, std::vector<Copy> &copies) const
+{
     const auto place = std::size_t(objectID);
     if (place >= m_objects.size() || !m_objects[place])
-        return false;
-    entity = &m_objects[place]->entity();
-    values = m_objects[place]->values();
-    return true;
+        return;
+    const HRFManagedObject &object = *m_objects[place];
+    copies.push_back({&object.entity(), objectID, object.values()});
+    for (const HRFRelationshipDescription &relationship : object.entity().relationships)
+        if (relationship.cascades)
+            copyObject(object.value(relationship.index).toLongLong(), copies);
 }
 
 std::vector<HRFObjectID> HRFMainContext::objectIDs(const HRFEntityDescription &entity) const
@@ -261,7 +290,8 @@ QSet<QString> HRFMainContext::texts(const HRFEntityDescription &entity, int prop
 
 void HRFMainContext::merge(HRFPrivateChanges changes)
 {
-    processPendingChanges(); // the user's own edits are told of as such
+    while (hasPendingChanges()) // the user's own edits are told of as such
+        processPendingChanges();
     {
         const std::lock_guard lock(m_lock);
         for (HRFPrivateChanges::Object &inserted : changes.inserted)

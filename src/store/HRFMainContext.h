@@ -33,7 +33,11 @@ public:
     /// undo command of them. Happens by itself when the event loop comes round.
     void processPendingChanges();
 
-    QUndoStack &undoManager() { return m_undoManager; }
+    /// For looking at.
+    const QUndoStack &undoManager() const { return m_undoManager; }
+    void undo();
+    void redo();
+    void removeAllUndoActions() { m_undoManager.clear(); }
     /// A switch, not a counter. Registration is on at first.
     void enableUndoRegistration() { m_registersUndo = true; }
     void disableUndoRegistration() { m_registersUndo = false; }
@@ -45,9 +49,15 @@ public:
     HRFObjectStore &store() const { return *m_store; }
 
     // For private contexts, from any thread:
-    /// The entity and present values of an object; false when there is none.
-    bool copyObject(HRFObjectID objectID, const HRFEntityDescription *&entity,
-                    HRFValues &values) const;
+    struct Copy
+    {
+        const HRFEntityDescription *entity;
+        HRFObjectID objectID;
+        HRFValues values;
+    };
+    /// The present values of an object, and of those that would be deleted with it, so that they
+    /// are seen whole or not at all; empty when there is none.
+    std::vector<Copy> copyObject(HRFObjectID objectID) const;
     std::vector<HRFObjectID> objectIDs(const HRFEntityDescription &entity) const;
     /// The texts of a property in all objects but some.
     QSet<QString> texts(const HRFEntityDescription &entity, int property,
@@ -74,6 +84,7 @@ private:
         QVariant value;
     };
 
+    void copyObject(HRFObjectID objectID, std::vector<Copy> &copies) const;
     void mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source);
     void adopt(std::unique_ptr<HRFManagedObject> object);
     void noteInserted(HRFManagedObject &object);
@@ -81,6 +92,7 @@ private:
     void noteChange(HRFManagedObject &object, int property);
     void schedulePendingChanges();
     void tell(bool isFromBackground);
+    bool hasPendingChanges() const;
     void registerUndo();
     HRFContextChanges takeChanges();
 

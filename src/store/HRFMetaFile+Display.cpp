@@ -16,5 +16,7 @@ QString HRFMetaFile::stringValueForAttribute(const HRFAttributeDescription &attr
 {
     const QVariant value = valueForAttribute(attribute);
     const QString transformer = attribute.displayValueTransformerName();
+    if (value.typeId() == QMetaType::Bool && transformer.isEmpty())
+        return value.toBool() ? u"1"_s : u"0"_s;
     return transformer.isEmpty() ? value.toString() : HRFTransformedValue(transformer, value);
 }

@@ -219,9 +219,9 @@ HRFResult<void> HRFObjectStore::write(const Changes &changes)
             storeObject(*object);
         for (const auto &[entity, objectID] : changes.deleted) {
             SQLite::Statement &statement = m_deleteStatements[std::size_t(entity->index)];
+            statement.tryReset(); // it may have failed the last time
             statement.bind(1, int64_t(objectID));
             statement.exec();
-            statement.reset();
         }
         transaction.commit();
         return {};

@@ -25,15 +25,6 @@ void deleteCompanions(const QString &storePath)
             QFile::remove(entry.filePath());
 }
 
-/// A worker that looks at the main context while it is dropped must not be the one who destroys it.
-void destroyOnMainThread(HRFMainContext *context)
-{
-    if (HRFMainThread::isCurrent())
-        delete context;
-    else
-        HRFMainThread::run([context] { delete context; }, HRFMainThread::Wait::No);
-}
-
 } // namespace
 
 HRFPersistentStoreManager::HRFPersistentStoreManager()
@@ -64,7 +55,7 @@ QString HRFPersistentStoreManager::modelURL() const
 
 QString HRFPersistentStoreManager::storeURL() const
 {
-    return storeURLForDBName(databaseName());
+    return m_storeURL.isEmpty() ? storeURLForDBName(databaseName()) : m_storeURL;
 }
 
 QString HRFPersistentStoreManager::storeURLForDBName(const QString &name)
@@ -83,8 +74,9 @@ void HRFPersistentStoreManager::openStore()
     m_model = HRFObjectModel::named(modelName());
     HRFAssert(m_model != nullptr,
               u"Could not load the data model at url “%1”."_s.arg(modelURL()).toStdString());
-    m_context.reset(new HRFMainContext(m_model, newStoreCoordinatorWithURL(storeURL())),
-                    &destroyOnMainThread);
+    m_storeURL = storeURL();
+    m_context =
+        HRFMainThread::makeShared<HRFMainContext>(m_model, newStoreCoordinatorWithURL(m_storeURL));
 }
 
 std::shared_ptr<HRFObjectStore>

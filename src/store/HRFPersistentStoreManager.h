@@ -36,6 +36,7 @@ public:
     virtual QString modelName() const;
     virtual QString databaseName() const;
     QString modelURL() const;
+    /// Stays what it was when the store was opened.
     QString storeURL() const;
     /// A file in the data folder, the folder of which is made.
     static QString storeURLForDBName(const QString &name);
@@ -64,6 +65,7 @@ private:
     std::shared_ptr<HRFObjectStore> newStoreCoordinatorWithURL(const QString &url);
 
     bool m_storeWasReset = false;
+    QString m_storeURL;
     std::shared_ptr<const HRFObjectModel> m_model;
     std::shared_ptr<HRFMainContext> m_context;
     QTimer m_delayedSave;

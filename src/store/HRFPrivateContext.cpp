@@ -77,7 +77,13 @@ void HRFPrivateContext::performBlock(std::function<void()> block)
         if (m_queue.size() > 1)
             return; // the one who runs the first goes on with this
     }
-    HRFBackground::run([self = shared_from_this()] { self->runQueuedBlocks(); });
+    try {
+        HRFBackground::run([self = shared_from_this()] { self->runQueuedBlocks(); });
+    } catch (...) {
+        const std::lock_guard lock(m_mutex);
+        m_queue.clear();
+        throw;
+    }
 }
 
 void HRFPrivateContext::runQueuedBlocks()
@@ -114,12 +120,14 @@ HRFManagedObject *HRFPrivateContext::object(HRFObjectID objectID)
     if (const auto found = m_objects.find(objectID); found != m_objects.end())
         return found->second.get();
     const auto parent = m_parent.lock();
-    const HRFEntityDescription *entity = nullptr;
-    HRFValues values;
-    if (!parent || m_deleted.contains(objectID) || !parent->copyObject(objectID, entity, values))
+    if (!parent || m_deleted.contains(objectID))
         return nullptr;
-    return m_objects.emplace(objectID, makeObject(*entity, objectID, std::move(values)))
-        .first->second.get();
+    for (HRFMainContext::Copy &copy : parent->copyObject(objectID))
+        if (!m_deleted.contains(copy.objectID) && !m_objects.contains(copy.objectID))
+            m_objects.emplace(copy.objectID,
+                              makeObject(*copy.entity, copy.objectID, std::move(copy.values)));
+    const auto copied = m_objects.find(objectID);
+    return copied == m_objects.end() ? nullptr : copied->second.get();
 }
 
 std::vector<HRFManagedObject *> HRFPrivateContext::fetch(const QString &entityName)

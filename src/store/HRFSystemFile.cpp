@@ -103,7 +103,8 @@ void HRFSystemFile::setValueForKey(const QVariant &value, const QString &name)
 
 QStringList HRFSystemFile::keysForValuesAffecting(const QString &name) const
 {
-    return name == u"displayFileName"_s ? QStringList{u"fileName"_s} : QStringList();
+    const bool isDerived = name == u"displayFileName"_s || name == u"fileExtension"_s;
+    return isDerived ? QStringList{u"fileName"_s} : QStringList();
 }
 
 void HRFSystemFile::updateAttributesForItemAtURL(const HRFFileReference &file)

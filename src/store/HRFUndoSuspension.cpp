@@ -31,5 +31,5 @@ HRFUndoSuspension::HRFUndoSuspension(std::weak_ptr<HRFMainContext> context)
 
 HRFUndoSuspension::~HRFUndoSuspension()
 {
-    setRegistration(m_context, true);
+    HRFMainThread::runLoggingFailures([this] { setRegistration(m_context, true); });
 }

@@ -53,7 +53,7 @@ protected:
         Names names;
         for (const HRFFoundFile &file : found.files) {
             names.push_back(nameOf(file.file));
-            EXPECT_EQ(HRFFileReferenceTable::fileForURL(file.fileURL), file.file);
+            EXPECT_EQ(HRFFileReferenceTable::referenceURLForFile(file.file), file.fileURL);
         }
         return names;
     }

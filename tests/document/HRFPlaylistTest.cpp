@@ -174,10 +174,10 @@ TEST_F(HRFPlaylistTest, AFileLivesInAList)
               onDisk(names[0], HRFTagKey::tagSize));
     EXPECT_EQ(list.undoManager().count(), 1); // the refresh is no edit
 
-    list.undoManager().undo(); // the files follow
+    list.undo(); // the files follow
     waitForBatches();
     EXPECT_EQ(onDisk(names[0], HRFTagKey::title), before);
-    list.undoManager().redo();
+    list.redo();
     waitForBatches();
     EXPECT_EQ(onDisk(names[0], HRFTagKey::title), u"A rather long new title"_s);
 
@@ -268,14 +268,14 @@ TEST_F(HRFPlaylistTest, EditsBeforeTheWriteBecomeOneWrite)
             list.managedObjectContext().processPendingChanges();
             progresses.push_back(list.fileManager().writeProgress());
         }
-        list.undoManager().undo(); // of the artist, before anything is written
+        list.undo(); // of the artist, before anything is written
     }
     waitForBatches(3);
     EXPECT_EQ(onDisk(u"01.mp3"_s, HRFTagKey::title), u"T"_s);
     EXPECT_NE(onDisk(u"01.mp3"_s, HRFTagKey::artist), u"A"_s);
     EXPECT_TRUE(progresses[0]->isFinished());
     EXPECT_TRUE(progresses[1]->isFinished());
-    list.undoManager().undo();
+    list.undo();
     waitForBatches();
     EXPECT_EQ(onDisk(u"01.mp3"_s, HRFTagKey::title), old);
 }
@@ -293,6 +293,45 @@ TEST_F(HRFPlaylistTest, AStripDropsThePendingWrite)
     waitForBatches(2);
     EXPECT_EQ(onDisk(u"01.mp3"_s, HRFTagKey::title), QString());
     EXPECT_FALSE(tags(u"01.mp3"_s).valueForKey(u"title"_s).isValid());
+}
+
+/// While the question is on the screen, an import selects other files.
+TEST_F(HRFPlaylistTest, OnlyConfirmedFilesAreStripped)
+{
+    importCopies(1);
+    addCopy(u"id3v23.mp3"_s, u"new.mp3"_s);
+    user.answers = {{HRFAnswerRole::Accept}};
+    user.onQuestion = [this](const QString &) {
+        list.importFileAtPath(music(u"new.mp3"_s));
+        waitUntil([&] { return endsWithSelection == 2; });
+        EXPECT_EQ(list.selectedFiles()[0]->fileInfo().fileName(), u"new.mp3"_s);
+    };
+    list.strip();
+    waitForBatches();
+    EXPECT_EQ(onDisk(u"01.mp3"_s, HRFTagKey::title), QString());
+    EXPECT_NE(onDisk(u"new.mp3"_s, HRFTagKey::title), QString());
+}
+
+/// A record that goes, or is edited again, while its batch is under way.
+TEST_F(HRFPlaylistTest, RefreshesCopeWithWhatHappensMeanwhile)
+{
+    importCopies(30);
+    list.fileController().setSelectedObjects(list.arrangedFiles());
+    list.stripTags();
+    tags(u"02.mp3"_s).setValueForKey(u"Later"_s, u"title"_s);
+    list.managedObjectContext().processPendingChanges();
+    waitForBatches(2);
+    EXPECT_EQ(tags(u"02.mp3"_s).valueForKey(u"title"_s), u"Later"_s);
+    EXPECT_EQ(onDisk(u"02.mp3"_s, HRFTagKey::title), u"Later"_s);
+    EXPECT_FALSE(tags(u"03.mp3"_s).valueForKey(u"title"_s).isValid());
+
+    list.fileController().setSelectedObjects(list.arrangedFiles());
+    list.stripTags();
+    HRFMetaFileManager::fileOperationQueue().waitUntilAllOperationsAreFinished();
+    QCoreApplication::processEvents(); // the refresh has begun
+    list.clear();
+    waitForBatches();
+    EXPECT_THAT(list.arrangedFiles(), IsEmpty());
 }
 
 TEST_F(HRFPlaylistTest, VanishedFilesDoNotKeepTheOthers)
@@ -330,7 +369,7 @@ TEST_F(HRFPlaylistTest, AnEditedNameRenamesTheFile)
     waitUntil([&] { return QFile::exists(path(u"music/AC:DC.mp3"_s)); });
     EXPECT_EQ(record(u"AC:DC.mp3"_s).url()->displayName(), u"AC:DC.mp3"_s);
     EXPECT_EQ(list.undoManager().undoText(), u"Rename"_s);
-    list.undoManager().undo();
+    list.undo();
     EXPECT_TRUE(QFile::exists(path(u"music/01.mp3"_s)));
 
     // A name that is taken: both stay.
@@ -339,11 +378,15 @@ TEST_F(HRFPlaylistTest, AnEditedNameRenamesTheFile)
     waitUntil([&] { return list.arrangedFiles()[0]->fileInfo().fileName() == u"02 2.mp3"_s; });
 
     // A name that cannot be: the edit is taken back.
-    const QString endless = QString(300, u'x') + u".mp3"_s;
-    record(u"02.mp3"_s).fileInfo().setValueForKey(endless, u"fileName"_s);
-    waitUntil([&] { return !user.presentedErrors.empty(); });
-    EXPECT_TRUE(QFile::exists(path(u"music/02.mp3"_s)));
-    waitUntil([&] { return list.arrangedFiles()[1]->fileInfo().fileName() == u"02.mp3"_s; });
+    for (const QString &name :
+         {QString(300, u'x') + u".mp3"_s, u""_s, u"."_s, u".."_s, u"a\0b"_s}) {
+        HRFSystemFile &info = list.arrangedFiles()[1]->fileInfo();
+        user.presentedErrors.clear();
+        info.setValueForKey(name, u"fileName"_s);
+        waitUntil([&] { return !user.presentedErrors.empty(); });
+        waitUntil([&] { return info.fileName() == u"02.mp3"_s; });
+        EXPECT_TRUE(QFile::exists(path(u"music/02.mp3"_s)));
+    }
 }
 
 TEST_F(HRFPlaylistTest, CommandsNeedWhatTheyWorkOn)
@@ -396,8 +439,7 @@ TEST_F(HRFPlaylistTest, QuittingWaitsForPendingWritesUnlessTheyAreCancelled)
     bool isTerminated = false;
     HeldQueue held;
     for (HRFMetaFile *file : list.arrangedFiles())
-        file->tags().setValueForKey(u"T"_s, u"title"_s);
-    list.managedObjectContext().processPendingChanges();
+        file->tags().setValueForKey(u"T"_s, u"title"_s); // in the very event of the end
     EXPECT_FALSE(documents.terminate([&] { isTerminated = true; }));
     const auto shown = user.shownProgresses.back();
     EXPECT_EQ(shown.progress->localizedDescription(), u"Writing Metadata…"_s);

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -59,6 +60,24 @@ TEST_F(HRFFileReferenceTableTest, FollowsRenamesInTheFolder)
     }
 }
 
+/// Some file systems give the inode of the file that was replaced to the next new file.
+TEST_F(HRFFileReferenceTableTest, KnowsReplacedFilesFromTheirNeighbours)
+{
+    const std::vector<std::string> names = {"1.mp3", "2.mp3", "3.mp3", "4.mp3"};
+    std::vector<QString> urls;
+    for (const std::string &name : names)
+        urls.push_back(reference(made(name)));
+    for (const std::string &name : names)
+        fs::rename(made("new"), at(name));
+    for (const QString &url : urls)
+        EXPECT_EQ(resolved(url), "none");
+    for (const std::string &name : names) {
+        const QString url = reference(at(name));
+        EXPECT_EQ(std::ranges::count(urls, url), 0) << url.toStdString();
+        EXPECT_EQ(resolved(url), at(name));
+    }
+}
+
 TEST_F(HRFFileReferenceTableTest, FollowsMovesThatItIsToldOf)
 {
     const QString url = reference(made("a.mp3"));
@@ -78,6 +97,11 @@ TEST_F(HRFFileReferenceTableTest, HardLinksAreOneFile)
     fs::create_hard_link(path, at("b/link.mp3"));
     const QString url = reference(at("b/link.mp3"));
     EXPECT_EQ(reference(path), url);
+    EXPECT_EQ(resolved(url), at("b/link.mp3"));
+    fs::remove(at("b/link.mp3"));
+    EXPECT_EQ(reference(path), url);
+    EXPECT_EQ(resolved(url), path);
+    fs::create_hard_link(path, at("b/link.mp3"));
     fs::rename(at("b/link.mp3"), at("b/other.mp3"));
     HRFFileReferenceTable::fileDidMove(file(at("b/link.mp3")), file(at("b/other.mp3")));
     EXPECT_EQ(resolved(url), path);

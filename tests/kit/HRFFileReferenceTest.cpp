@@ -34,6 +34,13 @@ TEST(HRFFileReference, KeepsBytesThatAreNoText)
     EXPECT_EQ(file.displayPath(), u"/x/\uFFFD.mp3"_s);
     EXPECT_NE(file, HRFFileReference::fromPath(file.displayPath()));
     EXPECT_TRUE(HRFFileReference::fromPath(file.displayPath()).isValidUtf8());
+
+    const std::pair<QString, const char *> cases[] = {{u"\uFFFD.flac"_s, "/x/\xE4.flac"},
+                                                      {u"\uFFFD"_s, "/x/\xE4"},
+                                                      {u"ä.mp3"_s, "/x/\xC3\xA4.mp3"},
+                                                      {u"a.b.mp3"_s, "/x/a.b.mp3"}};
+    for (const auto &[name, path] : cases)
+        EXPECT_EQ(file.withDisplayName(name).nativePath(), path);
 }
 
 TEST(HRFFileReference, ReadsFileUrls)

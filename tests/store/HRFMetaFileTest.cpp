@@ -27,6 +27,7 @@ protected:
                                         HRFObjectStore::Durability::Session))
         , file(*context.newObject<HRFMetaFile>())
     {
+        context.processPendingChanges();
     }
 
     HRFMainContext context;

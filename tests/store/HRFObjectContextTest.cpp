@@ -110,13 +110,30 @@ TEST_F(HRFObjectContextTest, AnEditOfManyFilesIsOneEventAndOneCommand)
     EXPECT_EQ(main->undoManager().count(), 1);
     EXPECT_EQ(main->undoManager().undoText(), u"Edit"_s);
 
-    main->undoManager().undo();
+    main->undo();
     EXPECT_EQ(title(files[1]), u"Two"_s);
     EXPECT_FALSE(tags(files[0]).valueForKey(u"trackNumber"_s).isValid());
     EXPECT_THAT(events, SizeIs(2)); // undoing is an edit
-    main->undoManager().redo();
+    main->redo();
     EXPECT_EQ(title(files[1]), u"Same"_s);
     EXPECT_EQ(main->undoManager().count(), 1);
+}
+
+TEST_F(HRFObjectContextTest, UndoTakesBackTheLatestEditEvenBeforeItsEventEnds)
+{
+    const HRFObjectID file = addFile(u"One"_s);
+    tags(file).setValueForKey(u"Two"_s, u"title"_s);
+    main->processPendingChanges();
+    tags(file).setValueForKey(u"A"_s, u"artist"_s);
+    main->undo();
+    EXPECT_EQ(title(file), u"Two"_s);
+    EXPECT_FALSE(tags(file).valueForKey(u"artist"_s).isValid());
+    // An object that is made here stays whole, whatever is undone.
+    auto *made = main->newObject<HRFMetaFile>();
+    made->tags().setValueForKey(u"Made"_s, u"title"_s);
+    main->undo();
+    EXPECT_EQ(title(file), u"One"_s);
+    EXPECT_EQ(title(made->objectID()), u"Made"_s);
 }
 
 TEST_F(HRFObjectContextTest, RegistrationIsASwitch)
@@ -156,7 +173,7 @@ TEST_F(HRFObjectContextTest, ABackgroundSaveTouchesNothingButWhatItChanged)
     EXPECT_EQ(title(file), u"Edited"_s);
     EXPECT_EQ(main->object(doomed), nullptr);
     EXPECT_THAT(main->fetch(u"SystemFile"_s), SizeIs(1));
-    main->undoManager().undo();
+    main->undo();
     EXPECT_EQ(title(file), u"One"_s);
 }
 
