@@ -50,6 +50,8 @@ void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
         ->allow_extra_args(false);
     app.add_option("--config", options.configFile, "Read the settings from this file")
         ->type_name("FILE");
+    app.add_option("--data-dir", options.dataFolder, "Keep working data in this folder")
+        ->type_name("DIR");
     app.add_flag("--dry-run", options.isDryRun, "Print what would change, change nothing");
     app.add_flag("--quiet", options.isQuiet, "Show no progress");
     app.add_option_function<std::string>(

@@ -15,6 +15,7 @@ struct HRFCommandOptions
 {
     std::vector<std::string> definitions; ///< -D KEY=VALUE
     std::string configFile;
+    std::string dataFolder; ///< --data-dir; empty for a temporary one
     bool isDryRun = false;
     bool isQuiet = false;
     HRFErrorAnswer onError = HRFErrorAnswer::Ask;

@@ -2,7 +2,10 @@
 
 #include "cli/HRFConsole.h"
 #include "cli/HRFValueText.h"
-#include "store/HRFArtworkFacts.h"
+#include "store/HRFArtworkProperties.h"
+#include "store/HRFAudioProperties.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
 #include "tags/HRFTagEngine.h"
 
 #include <QJsonArray>
@@ -15,7 +18,8 @@ namespace {
 
 using K = HRFTagKey;
 
-/// What `show` tells of the audio and the tag, in the order in which people read it.
+/// What `show` tells of the audio and the tag, in the order in which people read it. Records keep
+/// all of it but the last.
 constexpr K shownProperties[] = {
     K::format,   K::duration,    K::bitRate,    K::sampleRate, K::bitDepth,
     K::channels, K::channelMode, K::tagVersion, K::isVBR,      K::isDRMProtected,
@@ -32,36 +36,62 @@ QJsonValue jsonValue(const QVariant &value)
                                                   : QJsonValue::fromVariant(value);
 }
 
-void insertValue(QJsonObject &object, const HRFTagEngine &engine, K key)
+void insertValue(QJsonObject &object, const QString &name, const QVariant &value)
 {
-    const QVariant value = engine.valueForKey(key);
     if (!HRFTagValue::isNothing(value))
-        object.insert(nameOf(key), jsonValue(value));
+        object.insert(name, jsonValue(value));
 }
 
-QJsonObject jsonArtwork(const HRFArtworkFacts &facts)
+template <class Visit> void forEachTextualTag(const HRFMetaFile &record, Visit visit)
 {
-    QJsonObject object{{u"imageDataSize"_s, facts.imageDataSize}, {u"md5"_s, facts.md5}};
-    if (!facts.imageType.isEmpty())
-        object.insert(u"imageType"_s, facts.imageType);
-    if (!facts.imageSize.isEmpty())
-        object.insert(u"imageSize"_s, facts.imageSize);
+    const HRFMetaTags &tags = record.tags();
+    for (std::size_t i = 0; i < HRFTagPropertyCount; ++i)
+        if (const auto key = K(i); HRFRowForKey(key).isTag && key != K::artwork)
+            visit(key, tags.valueForKey(nameOf(key)));
+}
+
+template <class Visit>
+void forEachProperty(const HRFMetaFile &record, const HRFEngineFacts &facts, Visit visit)
+{
+    const HRFAudioProperties &properties = record.properties();
+    for (const K key : shownProperties)
+        visit(key,
+              key == K::isDRMProtected ? facts.isDRMProtected
+                                       : properties.valueForKey(nameOf(key)));
+}
+
+QVariant tagSizeOf(const HRFMetaFile &record)
+{
+    return record.valueForKey(nameOf(K::tagSize));
+}
+
+constexpr auto artworkFacts = {"imageType"_L1, "imageSize"_L1, "imageDataSize"_L1};
+
+QJsonObject jsonArtwork(const HRFMetaFile &record)
+{
+    QJsonObject object;
+    for (const QString name : artworkFacts)
+        insertValue(object, name, record.artworkProperties().valueForKey(name));
+    if (!object.isEmpty())
+        object.insert(u"md5"_s, record.artworkMD5());
     return object;
 }
 
-QJsonArray jsonFrames(const HRFTagEngine &engine)
+QString artworkText(const HRFMetaFile &record)
 {
-    QJsonArray array;
-    for (const HRFFrameDescription &frame : engine.frames().value_or(QList<HRFFrameDescription>()))
-        array.append(QJsonObject{{u"frameID"_s, frame.frameID}, {u"frameData"_s, frame.frameData}});
-    return array;
+    QStringList words;
+    for (const QString name : artworkFacts)
+        words += record.artworkProperties().valueForKey(name).toString();
+    words.removeAll(QString());
+    return words.join(u' ');
 }
 
-template <class Visit> void forEachTextualTag(Visit visit)
+QJsonArray jsonFrames(const HRFEngineFacts &facts)
 {
-    for (std::size_t i = 0; i < HRFTagPropertyCount; ++i)
-        if (const auto key = K(i); HRFRowForKey(key).isTag && key != K::artwork)
-            visit(key);
+    QJsonArray array;
+    for (const HRFFrameDescription &frame : facts.frames)
+        array.append(QJsonObject{{u"frameID"_s, frame.frameID}, {u"frameData"_s, frame.frameData}});
+    return array;
 }
 
 /// One line, its value beginning in a fixed column; further lines of the value below the first.
@@ -77,50 +107,60 @@ QString line(const QString &label, const QString &value)
 
 } // namespace
 
-QByteArray HRFFileReport::json(const HRFTagEngine &engine)
+HRFEngineFacts HRFEngineFacts::of(const HRFTagEngine &engine, bool withFrames)
 {
-    const HRFFileReference file = engine.fileURL();
-    QJsonObject object{{u"path"_s, file.displayPath()}};
-    if (!file.isValidUtf8())
-        object.insert(u"pathBytes"_s, QString::fromLatin1(file.nativePath().toHex()));
+    HRFEngineFacts facts{.framesCount = engine.valueForKey(K::framesCount),
+                         .isDRMProtected = engine.valueForKey(K::isDRMProtected),
+                         .frames = {}};
+    if (withFrames)
+        facts.frames = engine.frames().value_or(facts.frames);
+    return facts;
+}
+
+HRFFileReport::HRFFileReport(const HRFMetaFile &record, const HRFFileReference &path,
+                             const HRFEngineFacts &facts, bool printsFrames)
+    : m_record(record), m_path(path), m_facts(facts), m_printsFrames(printsFrames)
+{
+}
+
+QByteArray HRFFileReport::json() const
+{
+    QJsonObject object{{u"path"_s, m_path.displayPath()}};
+    if (!m_path.isValidUtf8())
+        object.insert(u"pathBytes"_s, QString::fromLatin1(m_path.nativePath().toHex()));
+    const auto insertInto = [](QJsonObject &part) {
+        return [&part](K key, const QVariant &value) { insertValue(part, nameOf(key), value); };
+    };
     QJsonObject tags;
-    forEachTextualTag([&](K key) { insertValue(tags, engine, key); });
+    forEachTextualTag(m_record, insertInto(tags));
     object.insert(u"tags"_s, tags);
     QJsonObject properties;
-    for (const K key : shownProperties)
-        insertValue(properties, engine, key);
+    forEachProperty(m_record, m_facts, insertInto(properties));
     object.insert(u"properties"_s, properties);
-    if (const auto picture = engine.artwork(); picture && !picture->isEmpty())
-        object.insert(u"artwork"_s, jsonArtwork(HRFArtworkFactsForPicture(*picture)));
-    insertValue(object, engine, K::tagSize);
-    insertValue(object, engine, K::framesCount);
+    if (const QJsonObject artwork = jsonArtwork(m_record); !artwork.isEmpty())
+        object.insert(u"artwork"_s, artwork);
+    insertValue(object, nameOf(K::tagSize), tagSizeOf(m_record));
+    insertValue(object, nameOf(K::framesCount), m_facts.framesCount);
     if (m_printsFrames)
-        object.insert(u"frames"_s, jsonFrames(engine));
+        object.insert(u"frames"_s, jsonFrames(m_facts));
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
-QByteArray HRFFileReport::text(const HRFTagEngine &engine)
+QByteArray HRFFileReport::text() const
 {
-    QString text = HRFConsole::printable(engine.fileURL().displayPath()) + u'\n';
-    const auto addValue = [&](K key) {
-        const QVariant value = engine.valueForKey(key);
+    QString text = HRFConsole::printable(m_path.displayPath()) + u'\n';
+    const auto addValue = [&](K key, const QVariant &value) {
         if (!HRFTagValue::isNothing(value) && value != QVariant(false))
             text += line(nameOf(key), HRFShownText(value, key));
     };
-    forEachTextualTag(addValue);
-    if (const auto picture = engine.artwork(); picture && !picture->isEmpty()) {
-        const HRFArtworkFacts &facts = HRFArtworkFactsForPicture(*picture);
-        text += line(u"artwork"_s,
-                     u"%1 %2 %3 bytes"_s.arg(facts.imageType, facts.imageSize)
-                         .arg(facts.imageDataSize)
-                         .simplified());
-    }
-    for (const K key : shownProperties)
-        addValue(key);
-    addValue(K::tagSize);
-    addValue(K::framesCount);
+    forEachTextualTag(m_record, addValue);
+    if (const QString artwork = artworkText(m_record); !artwork.isEmpty())
+        text += line(u"artwork"_s, artwork + u" bytes"_s);
+    forEachProperty(m_record, m_facts, addValue);
+    addValue(K::tagSize, tagSizeOf(m_record));
+    addValue(K::framesCount, m_facts.framesCount);
     if (m_printsFrames)
-        for (const auto &frame : engine.frames().value_or(QList<HRFFrameDescription>()))
+        for (const HRFFrameDescription &frame : m_facts.frames)
             text += line(u"  "_s + HRFConsole::printable(frame.frameID), frame.frameData);
     return (text + u'\n').toUtf8();
 }

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "cli/HRFConsole.h"
+#include "cli/HRFTerminalInteraction.h"
+#include "document/HRFDocumentController.h"
+#include "document/HRFPlaylist.h"
+
+#include <QEventLoop>
+#include <QHash>
+#include <QSet>
+#include <QTimer>
+
+class HRFMetaFile;
+
+/// Runs a command over a list document of its own: the files become records, and what is done with
+/// the records is done to the files. Names the files that fail, and ends between two files when the
+/// run is interrupted. For the main thread alone.
+class HRFListRun
+{
+public:
+    /// Takes the data folder, and runs the command.
+    ///
+    /// @return an exit status (HRFExitStatus)
+    static int run(const HRFCommandOptions &options,
+                   const std::function<void(HRFListRun &)> &command);
+
+    HRFConsole &console() { return m_console; }
+
+    /// Takes a record as soon as it is there; an error is reported as the file's.
+    using Visitor =
+        std::function<HRFResult<void>(const HRFMetaFile &record, const HRFFileReference &path)>;
+    /// Imports the files, and shows the records to a visitor in the order of the list. Nothing is
+    /// written.
+    void visitFiles(const HRFEngineInspector &inspector, const Visitor &visitor);
+
+    /// Changes all records of the list, in its order, or queues work on their files; answers
+    /// whether there is anything to write.
+    using Change =
+        std::function<bool(HRFPlaylist &list, const std::vector<HRFMetaFile *> &records)>;
+    /// Imports the files, changes them and waits until they are written.
+    void changeFiles(const Change &change);
+
+private:
+    HRFListRun(const HRFCommandOptions &options, HRFConsole &console);
+    HRFListRun(const HRFListRun &) = delete;
+    HRFListRun &operator=(const HRFListRun &) = delete;
+    ~HRFListRun();
+
+    void importFiles();
+    void visit(const HRFMetaFile &record, const Visitor &visitor);
+    /// To be called ten times a second.
+    void look();
+    bool hasToEnd() const;
+    int exitStatus();
+
+    void fail(const HRFFileReference &path, const HRFError &error);
+    HRFTerminalInteraction::Named nameFailure(const HRFFileOperation &operation);
+    HRFTerminalInteraction::Named nameRunningFailure();
+    void takeOutcomes(const HRFPlaylist::Operations &operations);
+
+    const HRFCommandOptions &m_options;
+    HRFConsole &m_console;
+    /// The paths of the files as they were given or found, by reference URL.
+    QHash<QString, HRFFileReference> m_paths;
+    std::size_t m_finished = 0; ///< files
+    bool m_hasFailed = false;
+    QSet<QString> m_namedFiles; ///< by file key
+    /// The queued operations, in their order; those before the next one can ask nothing any more.
+    std::vector<std::shared_ptr<HRFOperation>> m_queued;
+    std::size_t m_nextQueued = 0;
+
+    HRFTerminalInteraction m_interaction;
+    HRFDocumentController m_documents;
+    HRFPlaylist &m_list;
+    QEventLoop m_loop;
+    QTimer m_timer;
+};

@@ -1,0 +1,180 @@
+#include "cli/HRFTerminalInteraction.h"
+
+#include "cli/HRFConsole.h"
+#include "cli/HRFInterruption.h"
+#include "operations/HRFProgress.h"
+#include "tags/HRFTagEngine.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Buttons = std::vector<HRFAlertButton>;
+
+const QString quitLetter = u"q"_s;
+const QString forAllWord = u"all"_s;
+
+/// "ask" needs somebody who answers.
+HRFErrorAnswer effectiveAnswer(HRFErrorAnswer answer, const HRFConsole &console)
+{
+    const bool cannotAsk = answer == HRFErrorAnswer::Ask && !console.isInteractive();
+    return cannotAsk ? HRFErrorAnswer::Continue : answer;
+}
+
+/// The button that is meant by an answer, or else the next more careful one.
+std::size_t buttonFor(HRFErrorAnswer answer, const Buttons &buttons)
+{
+    constexpr std::array roles{HRFAnswerRole::Fix, HRFAnswerRole::Continue, HRFAnswerRole::Cancel};
+    const std::size_t first = answer == HRFErrorAnswer::Fix ? 0
+        : answer == HRFErrorAnswer::Continue                ? 1
+                                                            : 2;
+    for (std::size_t i = first; i < roles.size(); ++i) {
+        const auto found = std::ranges::find(buttons, roles[i], &HRFAlertButton::role);
+        if (found != buttons.end())
+            return std::size_t(found - buttons.begin());
+    }
+    return buttons.size() - 1;
+}
+
+/// A letter of each title, all different.
+QString lettersFor(const Buttons &buttons)
+{
+    QString letters;
+    for (const HRFAlertButton &button : buttons) {
+        const QString title = button.title.toLower();
+        const auto isFree = [&](QChar letter) {
+            return letter.isLetter() && letter != quitLetter.front() && !letters.contains(letter);
+        };
+        const auto found = std::ranges::find_if(title, isFree);
+        letters += found == title.end() ? QChar(char16_t(u'0' + letters.size())) : *found;
+    }
+    return letters;
+}
+
+QString questionText(const HRFAlert &alert, const QString &letters)
+{
+    QStringList choices;
+    for (qsizetype i = 0; i < letters.size(); ++i) {
+        QString title = alert.buttons[std::size_t(i)].title.toLower();
+        const qsizetype place = title.indexOf(letters[i]);
+        const QString marked = u"[%1]"_s.arg(letters[i]);
+        choices += place < 0 ? marked + title : title.replace(place, 1, marked);
+    }
+    choices += u"[q]uit"_s;
+    const QString forAll = alert.suppressionTitle.isEmpty()
+        ? QString()
+        : u" (“%1 all”: from now on)"_s.arg(letters.front());
+    return choices.join(u", "_s) + forAll + u"? "_s;
+}
+
+/// What was typed, as an answer; nothing when it is none.
+std::optional<HRFAlertAnswer> parseAnswer(const QString &typed, const HRFAlert &alert,
+                                          const QString &letters)
+{
+    const QStringList words = typed.split(u' ', Qt::SkipEmptyParts);
+    const bool isForAll = words.size() == 2 && words[1] == forAllWord;
+    const qsizetype button = words[0].size() == 1 ? letters.indexOf(words[0]) : -1;
+    if (button < 0 || words.size() > (isForAll ? 2 : 1)
+        || (isForAll && alert.suppressionTitle.isEmpty()))
+        return {};
+    return HRFAlertAnswer{.button = std::size_t(button), .isSuppressed = isForAll};
+}
+
+/// The import ends with such an error when files were unreadable. They were named one by one.
+bool isSummaryOfNamedFiles(const HRFError &error)
+{
+    return error.domain == QLatin1StringView(HRFTagEngineErrorDomain)
+        && error.code == HRFTagEngineErrorCode::unreadable && error.path.isEmpty();
+}
+
+class Display : public HRFProgressDisplay
+{
+public:
+    explicit Display(std::weak_ptr<HRFProgress> &shown) : m_shown(shown) { }
+    ~Display() override { m_shown.reset(); }
+
+private:
+    std::weak_ptr<HRFProgress> &m_shown;
+};
+
+} // namespace
+
+HRFTerminalInteraction::HRFTerminalInteraction(HRFConsole &console, HRFErrorAnswer onError,
+                                               FailureNamer nameFailure)
+    : m_console(console)
+    , m_onError(effectiveAnswer(onError, console))
+    , m_nameFailure(std::move(nameFailure))
+{
+    setCurrent(this);
+}
+
+HRFTerminalInteraction::~HRFTerminalInteraction()
+{
+    setCurrent(nullptr);
+}
+
+HRFAlertAnswer HRFTerminalInteraction::runAlert(const HRFAlert &alert)
+{
+    tell(alert.message + u": "_s + alert.informativeText);
+    if (asks())
+        return ask(alert);
+    if (m_onError == HRFErrorAnswer::Cancel)
+        cancelShownWork();
+    return {.button = buttonFor(m_onError, alert.buttons)};
+}
+
+bool HRFTerminalInteraction::presentError(const HRFError &error)
+{
+    if (!isSummaryOfNamedFiles(error))
+        tell(error.fullText());
+    return false;
+}
+
+/// A file is named once; but who sits at the terminal is told what came of an answer.
+void HRFTerminalInteraction::tell(const QString &text)
+{
+    const Named named = m_nameFailure();
+    if (named == Named::NoFile || (named == Named::Before && asks()))
+        m_console.report(text);
+}
+
+HRFAlertAnswer HRFTerminalInteraction::ask(const HRFAlert &alert)
+{
+    const QString letters = lettersFor(alert.buttons);
+    const QString question = questionText(alert, letters);
+    while (!HRFInterruption::isRequested()) {
+        const QString typed = m_console.ask(question);
+        if (typed.isEmpty() || typed == quitLetter)
+            break;
+        if (const auto answer = parseAnswer(typed, alert, letters))
+            return *answer;
+    }
+    cancelShownWork();
+    return {.button = buttonFor(HRFErrorAnswer::Cancel, alert.buttons)};
+}
+
+std::unique_ptr<HRFProgressDisplay>
+HRFTerminalInteraction::showProgress(const std::shared_ptr<HRFProgress> &progress,
+                                     const HRFProgressAppearance & /*appearance*/)
+{
+    m_shownProgress = progress;
+    return std::make_unique<Display>(m_shownProgress);
+}
+
+void HRFTerminalInteraction::updateProgress()
+{
+    if (const auto progress = m_shownProgress.lock())
+        m_console.showProgress(std::size_t(progress->completedUnitCount()),
+                               std::size_t(progress->totalUnitCount()));
+}
+
+void HRFTerminalInteraction::cancelShownWork()
+{
+    if (const auto progress = m_shownProgress.lock())
+        progress->cancel();
+}
