@@ -151,6 +151,7 @@ QString applySettings(const HRFCommandOptions &options)
 
 int HRFRunCommandLine(int argc, char **argv)
 {
+    HRFConsole::occupyClosedStreams();
     // Later versions of Qt say at every start when the locale is not UTF-8. Names are taken as
     // bytes and output is UTF-8 in any case.
     const QtMessageHandler handler =

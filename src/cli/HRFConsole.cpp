@@ -2,9 +2,18 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+/// The streams stay as unusable as they are.
+void HRFConsole::occupyClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(stream, F_GETFD) < 0)
+            ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
 
 HRFConsole::HRFConsole(bool isQuiet) : m_showsProgress(!isQuiet && ::isatty(STDERR_FILENO) == 1) { }
 

@@ -12,6 +12,10 @@
 class HRFConsole
 {
 public:
+    /// To be called before any file is opened: none shall take the place of a standard stream that
+    /// is closed.
+    static void occupyClosedStreams();
+
     explicit HRFConsole(bool isQuiet);
 
     /// Writes to standard output as it stands. After a failure (a closed pipe, a full disk) nothing

@@ -3,7 +3,9 @@
 import json
 import os
 import pathlib
+import pty
 import shutil
+import subprocess
 import unittest
 
 from lirra_program import PROGRAM, ProgramTest, audio, frame, id3v2, picture, synchsafe
@@ -102,17 +104,46 @@ class PermissionTest(CommandTest):
         self.assert_one_line(result.stderr, folder, "Permission denied")
 
     def test_read_only(self):
-        # Answer to errors -> exit status, whether the read-only file is done, whether the next is.
+        cover = self.file("cover.png", picture("png"))
+        # Answer to errors -> exit status, whether the read-only file is done, whether the next are.
         for answer, expected in {"continue": (1, False, True), "cancel": (1, False, False),
                                  "fix": (0, True, True), "ask": (1, False, True)}.items():
-            for command, data in ((COMMANDS[2], audio()), (["strip"], TAGGED)):
+            for command, data in ((COMMANDS[2], audio()), (["strip"], TAGGED),
+                                  (["set", "--artwork", cover, "-t", "title=new"], TAGGED)):
                 with self.subTest(answer, command=command):
-                    paths = self.owned("a.mp3", 0o444, data), self.owned("b.mp3", 0o644, data)
+                    paths = [self.owned(f"{i}.mp3", 0o644, data) for i in range(20)]
+                    paths[6].chmod(0o444)
                     result = self.run_restricted("--on-error", answer, *command, *paths)
                     is_done = [path.read_bytes() != data for path in paths]
-                    self.assertEqual((result.returncode, *is_done), expected)
-                    self.assert_one_line(result.stderr, paths[0], "Permission denied")
-                    paths[0].unlink()
+                    status, is_fixed, goes_on = expected
+                    self.assertEqual(result.returncode, status)
+                    self.assertEqual(is_done, [True] * 6 + [is_fixed] + [goes_on] * 13)
+                    self.assert_one_line(result.stderr, paths[6], "Permission denied")
+                    for path in paths:
+                        path.unlink()
+
+    def test_questions(self):
+        # What is typed -> exit status, which of the read-only files are done, questions asked.
+        for typed, expected in {"c\nwhat\nf all\n": (1, [False, True, True, True], 3),
+                                "c all\n": (1, [False] * 4, 1),
+                                "f\nq\n": (1, [True, False, False, False], 2),
+                                "\x04": (1, [False] * 4, 1)}.items():
+            with self.subTest(typed):
+                paths = [self.owned(f"{i}.mp3", 0o444) for i in range(4)]
+                terminal, other_end = pty.openpty()
+                os.write(terminal, typed.encode())
+                process = subprocess.run(
+                    RESTRICTED + self.command(*COMMANDS[2], *paths,
+                                              program=self.program_for_everyone()),
+                    env=self.environment(), stdin=other_end, stderr=other_end, timeout=60)
+                is_done = [path.read_bytes() != audio() for path in paths]
+                shown = os.read(terminal, 1 << 16).decode()
+                questions = shown.count("[f]ix permissions, [c]ancel, [q]uit")
+                self.assertEqual((process.returncode, is_done, questions), expected, shown)
+                os.close(terminal)
+                os.close(other_end)
+                for path in paths:
+                    path.unlink(missing_ok=True)
 
 
 class UsageTest(CommandTest):
@@ -200,6 +231,12 @@ class EditingTest(CommandTest):
         self.assertNotIn("artwork", self.show(path))
         self.assertEqual(self.tags(path), {"title": "T", "trackTotal": 12})
 
+    def test_values_that_are_there_already(self):
+        path = self.file(data=TAGGED)
+        changed = path.stat().st_mtime_ns
+        self.set_tags(path, {"title": "old", "album": ""})
+        self.assertEqual((path.read_bytes(), path.stat().st_mtime_ns), (TAGGED, changed))
+
     def test_one_file_under_several_names(self):
         path = self.file()
         hard, soft = self.folder / "hard.mp3", self.folder / "soft.mp3"
@@ -271,6 +308,8 @@ class NamesTest(CommandTest):
                 plain = [path for path in found if path.isascii()]
                 self.assertEqual(plain if shown is None else found,
                                  shown or [path for path in paths if path.isascii()])
+        many = [str(self.file(f"many/{i}.mp3")) for i in range(700)]
+        self.assertEqual(self.shown_paths(self.folder / "many"), many)
         given = [paths[4], paths[0], paths[12]]
         self.assertEqual(self.shown_paths(*given), given)
 

@@ -4,16 +4,17 @@ import fcntl
 import os
 import resource
 import signal
-import struct
 import subprocess
-import termios
 import time
 import unittest
 
+import mutagen.id3
+
 from lirra_program import ProgramTest, audio, frame, id3v2, picture
 
-# Of a message about a file with a long name, at least.
-MESSAGE_SIZE = 400
+# What the program's own store of a file or two may take
+STORE_SIZE = 1 << 17
+TAGGED = id3v2(frame("TIT2", b"\0old")) + audio()
 
 
 def limit_file_size(size):
@@ -24,22 +25,20 @@ def limit_file_size(size):
     return prepare
 
 
-def bytes_in(pipe):
-    return struct.unpack("i", fcntl.ioctl(pipe, termios.FIONREAD, bytes(4)))[0]
-
-
 class FullDiskTest(ProgramTest):
     def test_file_stays_as_it_was(self):
-        tagged = id3v2(frame("TIT2", b"\0old") + bytes(500)) + audio()
+        sound = audio() * (2 * STORE_SIZE // len(audio()))
+        tagged = id3v2(frame("TIT2", b"\0old") + bytes(500)) + sound
         with_both = tagged + b"TAG".ljust(128, b"\0")
         cover = self.file("cover.png", picture("png", "gray", 400))
         set_title = ["set", "-t", "title=new"]
         for data, arguments, limits in (
-                (audio(), set_title, [0, 1, len(audio()) - 1, len(audio()), len(audio()) + 20]),
-                (tagged, ["set", "--artwork", cover], [0, 600, len(tagged), len(tagged) + 500]),
+                (sound, set_title, [STORE_SIZE, len(sound) - 1, len(sound), len(sound) + 20]),
+                (tagged, ["set", "--artwork", cover],
+                 [STORE_SIZE, len(tagged), len(tagged) + 500]),
                 # The new tag at the front still fits, the one at the end does not.
-                (with_both, set_title, [0, 600, len(tagged)]),
-                (with_both, ["strip"], [0, 300, len(audio()) - 1])):
+                (with_both, set_title, [STORE_SIZE, len(tagged)]),
+                (with_both, ["strip"], [STORE_SIZE, len(sound) - 1])):
             for limit in limits:
                 with self.subTest(arguments=arguments, limit=limit):
                     path = self.file(data=data)
@@ -55,32 +54,81 @@ class FullDiskTest(ProgramTest):
 
 
 class InterruptionTest(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.temporary = self.folder / "temporary"
+        self.temporary.mkdir()
+        self.music = [self.file(f"music/{i}.mp3", TAGGED) for i in range(1000)]
+
+    def start(self, *arguments):
+        """Sets another title, which takes as long as it takes to write a thousand files."""
+        command = self.command(*arguments, "set", "-t", "title=new", self.folder / "music")
+        return subprocess.Popen(command, env=self.environment(TMPDIR=str(self.temporary)),
+                                stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+
+    def wait_until(self, condition, process):
+        while not condition() and process.poll() is None:
+            time.sleep(0.001)
+
+    def count_changed(self):
+        """How many files have the new title; the others must be as they were."""
+        titles = [mutagen.id3.ID3(path)["TIT2"].text for path in self.music]
+        for path, title in zip(self.music, titles):
+            data = path.read_bytes()
+            self.assertTrue(data == TAGGED if title == ["old"] else data.endswith(audio()), path)
+            self.assertIn(title, (["old"], ["new"]))
+        self.assertEqual(len(list((self.folder / "music").iterdir())), len(self.music))
+        return titles.count(["new"])
+
+    def leftovers(self):
+        return [path for path in self.temporary.glob("*/*") if path.is_dir()]
+
+    def is_writing(self):
+        return self.music[0].read_bytes() != TAGGED
+
     def test_interrupted_between_files(self):
-        """More bad files than the pipe has room for messages hold the program up until the signal
-        has been sent."""
-        reading, writing = os.pipe()
-        # The smallest one that the system gives
-        bad_count = 3 * fcntl.fcntl(writing, fcntl.F_SETPIPE_SZ, 4096) // MESSAGE_SIZE
-        bad = [self.file(f"bad {i} {'x' * 200}.mp3", b"") for i in range(bad_count)]
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
-            with self.subTest(number):
-                first, last = self.file("first.mp3"), self.file("last.mp3")
-                command = self.command("set", "-t", "title=new", first, *bad, last)
-                with subprocess.Popen(command, env=self.environment(), stderr=writing) as process:
-                    while bytes_in(reading) < MESSAGE_SIZE:
-                        self.assertIsNone(process.poll())
-                        time.sleep(0.01)
-                    process.send_signal(number)
-                    errors = b""
-                    while process.poll() is None or bytes_in(reading):
-                        errors += os.read(reading, 4096) if bytes_in(reading) else b""
-                self.assertEqual(process.returncode, 130)
-                self.assertIn(b"Interrupted: ", errors.splitlines()[-1])
-                self.assertEqual(self.tags(first), {"title": "new"})
-                self.assertEqual([path.read_bytes() for path in [*bad, last]],
-                                 [b""] * bad_count + [audio()])
-        os.close(reading)
-        os.close(writing)
+            with self.subTest(number), self.start() as process:
+                self.wait_until(self.is_writing, process)
+                process.send_signal(number)
+                errors = process.stderr.read().decode()
+                self.assertEqual(process.wait(), 130)
+                self.assertEqual(errors, "lirra-cli: Interrupted: "
+                                 f"{self.count_changed()} of 1000 files are done\n")
+                self.assertEqual(self.leftovers(), [])
+            for path in self.music:
+                path.write_bytes(TAGGED)
+
+    def test_killed(self):
+        is_importing = lambda: any(self.temporary.glob("*/*/windowSessions/*"))
+        for condition in (is_importing, self.is_writing):
+            with self.subTest(condition), self.start() as process:
+                self.wait_until(condition, process)
+                process.kill()
+                process.wait()
+                self.assertEqual(len(self.leftovers()), 1)
+                self.assertLess(self.count_changed(), len(self.music))
+        with self.start() as process:
+            self.assertEqual((process.wait(), process.stderr.read()), (0, b""))
+        self.assertEqual(self.count_changed(), len(self.music))
+        self.assertEqual(self.leftovers(), [])
+
+    def test_data_folder_in_use(self):
+        folder = self.folder / "data"
+        folder.mkdir()
+        with open(folder / "lock", "w", encoding="utf-8") as other_program:
+            fcntl.flock(other_program, fcntl.LOCK_EX)
+            with self.start("--data-dir", folder) as process:
+                self.assertEqual(process.wait(), 2)
+                self.assertRegex(process.stderr.read().decode(),
+                                 f"^lirra-cli: {folder}: .* in use by another program.*\n$")
+            self.assertEqual(self.count_changed(), 0)
+        (folder / "windowSessions").mkdir()
+        (folder / "windowSessions/of-a-killed-program.sqlite").touch()
+        with self.start("--data-dir", folder) as process:
+            self.assertEqual((process.wait(), process.stderr.read()), (0, b""))
+        self.assertEqual([path.name for path in folder.iterdir()], ["lock"])
+        self.assertEqual(list(self.temporary.iterdir()), [])
 
 
 class StreamsTest(ProgramTest):
