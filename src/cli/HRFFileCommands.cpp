@@ -51,15 +51,16 @@ struct Preview
 void previewFiles(HRFListRun &run, const std::function<Preview(HRFTagEngine &)> &change)
 {
     HRFFileNotes<Preview> previews;
-    run.visitFiles([&](const QString &fileURL,
-                       HRFTagEngine &engine) { previews.put(fileURL, change(engine)); },
-                   [&](const HRFMetaFile &record, const HRFFileReference &path) {
-                       const Preview preview = previews.take(record.fileURL());
-                       if (!preview.text.isEmpty())
-                           run.console().print(HRFConsole::printable(path.displayPath()).toUtf8()
-                                               + '\n' + preview.text);
-                       return preview.outcome;
-                   });
+    const auto note = [&](const QString &fileURL, HRFTagEngine &engine) {
+        previews.put(fileURL, change(engine));
+    };
+    run.visitFiles(note, [&](const HRFMetaFile &record, const HRFFileReference &path) {
+        const Preview preview = previews.take(record.fileURL());
+        if (!preview.text.isEmpty())
+            run.console().print(HRFConsole::printable(path.displayPath()).toUtf8() + '\n'
+                                + preview.text);
+        return preview.outcome;
+    });
 }
 
 Preview previewChanges(HRFTagEngine &engine, const std::vector<HRFTagChange> &changes)

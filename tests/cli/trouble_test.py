@@ -14,7 +14,8 @@ from lirra_program import ProgramTest, audio, frame, id3v2, picture
 
 # What the program's own store of a file or two may take
 STORE_SIZE = 1 << 17
-TAGGED = id3v2(frame("TIT2", b"\0old")) + audio()
+# With room for another tag, which is written in one step then: who is killed leaves no half of it
+TAGGED = id3v2(frame("TIT2", b"\0old") + bytes(500)) + audio()
 
 
 def limit_file_size(size):
@@ -83,25 +84,29 @@ class InterruptionTest(ProgramTest):
     def leftovers(self):
         return [path for path in self.temporary.glob("*/*") if path.is_dir()]
 
+    def is_importing(self):
+        return any(self.temporary.glob("*/*/windowSessions/*"))
+
     def is_writing(self):
         return self.music[0].read_bytes() != TAGGED
 
     def test_interrupted_between_files(self):
-        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        for number, condition in ((signal.SIGINT, self.is_writing),
+                                  (signal.SIGTERM, self.is_writing),
+                                  (signal.SIGHUP, self.is_importing)):
             with self.subTest(number), self.start() as process:
-                self.wait_until(self.is_writing, process)
+                self.wait_until(condition, process)
                 process.send_signal(number)
                 errors = process.stderr.read().decode()
                 self.assertEqual(process.wait(), 130)
-                self.assertEqual(errors, "lirra-cli: Interrupted: "
-                                 f"{self.count_changed()} of 1000 files are done\n")
+                self.assertRegex(errors, f"^lirra-cli: Interrupted: {self.count_changed()} of "
+                                 r"\d+ files are done\n$")
                 self.assertEqual(self.leftovers(), [])
             for path in self.music:
                 path.write_bytes(TAGGED)
 
     def test_killed(self):
-        is_importing = lambda: any(self.temporary.glob("*/*/windowSessions/*"))
-        for condition in (is_importing, self.is_writing):
+        for condition in (self.is_importing, self.is_writing):
             with self.subTest(condition), self.start() as process:
                 self.wait_until(condition, process)
                 process.kill()
@@ -154,11 +159,10 @@ class StreamsTest(ProgramTest):
 
     def test_closed_streams_never_become_files(self):
         """A file that is opened while a standard stream is closed takes the place of the stream."""
-        tagged = id3v2(frame("TIT2", b"\0old") + bytes(500)) + audio()
         for streams in ("0<&-", "1>&-", "2>&-", "0<&- 1>&-", "0<&- 1>&- 2>&-"):
             for arguments in (["show"], ["--dry-run", "strip"], ["set", "-t", "title=new"]):
                 with self.subTest(streams, arguments=arguments):
-                    path, bad = self.file(data=tagged), self.file("bad.mp3", b"")
+                    path, bad = self.file(data=TAGGED), self.file("bad.mp3", b"")
                     command = self.command(*arguments, bad, path, bad)
                     subprocess.run(["sh", "-c", f'"$@" {streams}', "sh", *command], timeout=60,
                                    env=self.environment(), capture_output=True)
