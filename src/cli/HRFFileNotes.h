@@ -11,7 +11,7 @@
 template <class Note> class HRFFileNotes
 {
 public:
-    void put(const QString &fileURL, Note note)
+    void put(const QString &fileURL, Note &&note)
     {
         const std::lock_guard lock(m_mutex);
         m_notes.insert(fileURL, std::move(note));

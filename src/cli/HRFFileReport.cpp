@@ -12,6 +12,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -54,10 +56,10 @@ template <class Visit>
 void forEachProperty(const HRFMetaFile &record, const HRFEngineFacts &facts, Visit visit)
 {
     const HRFAudioProperties &properties = record.properties();
-    for (const K key : shownProperties)
-        visit(key,
-              key == K::isDRMProtected ? facts.isDRMProtected
-                                       : properties.valueForKey(nameOf(key)));
+    for (const K key : shownProperties) {
+        const bool isKept = key != K::isDRMProtected;
+        visit(key, isKept ? properties.valueForKey(nameOf(key)) : facts.isDRMProtected);
+    }
 }
 
 QVariant tagSizeOf(const HRFMetaFile &record)
@@ -65,7 +67,7 @@ QVariant tagSizeOf(const HRFMetaFile &record)
     return record.valueForKey(nameOf(K::tagSize));
 }
 
-constexpr auto artworkFacts = {"imageType"_L1, "imageSize"_L1, "imageDataSize"_L1};
+constexpr std::array artworkFacts{"imageType"_L1, "imageSize"_L1, "imageDataSize"_L1};
 
 QJsonObject jsonArtwork(const HRFMetaFile &record)
 {

@@ -83,10 +83,11 @@ HRFListRun::~HRFListRun()
 void HRFListRun::visitFiles(const HRFEngineInspector &inspector, const Visitor &visitor)
 {
     const auto visitNewRecords = [&](const HRFContextChanges &changes) {
-        for (const HRFManagedObject *object : changes.inserted)
-            if (const auto *record = dynamic_cast<const HRFMetaFile *>(object);
-                record && !hasToEnd())
+        for (const HRFManagedObject *object : changes.inserted) {
+            const auto *record = dynamic_cast<const HRFMetaFile *>(object);
+            if (record && !hasToEnd())
                 visit(*record, visitor);
+        }
     };
     m_list.fileManager().setEngineInspector(inspector);
     const auto connection = QObject::connect(&m_list.managedObjectContext(),
@@ -125,6 +126,7 @@ void HRFListRun::changeFiles(const Change &change)
 void HRFListRun::importFiles()
 {
     std::vector<HRFFileReference> given;
+    given.reserve(m_options.paths.size());
     for (const std::string &path : m_options.paths)
         given.push_back(HRFFileReference::fromNativePath(QByteArray::fromStdString(path)));
     HRFFoundFiles found = HRFFileWalker::find(given, &HRFInterruption::isRequested);

@@ -23,6 +23,9 @@ public:
     /// @return an exit status (HRFExitStatus)
     static int run(const HRFCommandOptions &options,
                    const std::function<void(HRFListRun &)> &command);
+    HRFListRun(const HRFListRun &) = delete;
+    HRFListRun &operator=(const HRFListRun &) = delete;
+    ~HRFListRun();
 
     HRFConsole &console() { return m_console; }
 
@@ -42,10 +45,6 @@ public:
 
 private:
     HRFListRun(const HRFCommandOptions &options, HRFConsole &console);
-    HRFListRun(const HRFListRun &) = delete;
-    HRFListRun &operator=(const HRFListRun &) = delete;
-    ~HRFListRun();
-
     void importFiles();
     void visit(const HRFMetaFile &record, const Visitor &visitor);
     /// To be called ten times a second.
