@@ -10,8 +10,6 @@
 
 #include <QFile>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 using Named = HRFTerminalInteraction::Named;
 

@@ -68,7 +68,7 @@ QString questionText(const HRFAlert &alert, const QString &letters)
     choices += u"[q]uit"_s;
     const QString forAll = alert.suppressionTitle.isEmpty()
         ? QString()
-        : u" (“%1 all”: from now on)"_s.arg(letters.front());
+        : u" (“%1 all” for all files)"_s.arg(letters.front());
     return choices.join(u", "_s) + forAll + u"? "_s;
 }
 
@@ -120,7 +120,9 @@ HRFTerminalInteraction::~HRFTerminalInteraction()
 
 HRFAlertAnswer HRFTerminalInteraction::runAlert(const HRFAlert &alert)
 {
-    tell(alert.message + u": "_s + alert.informativeText);
+    QStringList texts{alert.message, alert.informativeText};
+    texts.removeAll(QString());
+    tell(texts.join(u": "_s));
     if (asks())
         return ask(alert);
     if (m_onError == HRFErrorAnswer::Cancel)
