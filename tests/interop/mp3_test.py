@@ -112,8 +112,8 @@ class FramesTest(ProgramTest):
         for name, text in (("TYER", "2004"), ("TDAT", "0605"), ("TIME", "0708")):
             tag.add(Frames[name](encoding=0, text=text))
         tag.save(path, v2_version=3, v1=0)
-        for version, name in (("48", "TDRC"), ("31", "TYER"), ("48", "TDRC")):
-            self.set_tags(path, {"title": "new"}, version=version)
+        for title, version, name in (("1", "48", "TDRC"), ("2", "31", "TYER"), ("3", "48", "TDRC")):
+            self.set_tags(path, {"title": title}, version=version)
             self.assertIn(name, ID3(path, translate=False))
             self.assertEqual(str(ID3(path)["TDRC"])[:16], "2004-05-06 07:08")
 
