@@ -3,11 +3,13 @@
 #include "document/HRFDocumentController.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFUserInteraction.h"
+#include "sides/HRFOrThrow.h"
 #include "store/HRFDataFolder.h"
 #include "store/HRFMetaFile.h"
 #include "store/HRFMetaTags.h"
 
 #include <QEventLoop>
+#include <QTemporaryDir>
 
 #include <stdexcept>
 
@@ -39,20 +41,13 @@ private:
     }
 };
 
-std::unique_ptr<HRFDataFolder> newFolder()
-{
-    auto folder = HRFDataFolder::takeTemporary();
-    if (!folder)
-        throw std::runtime_error(folder.error().fullText().toStdString());
-    return *std::move(folder);
-}
-
 } // namespace
 
 struct HRFListSide::Parts
 {
     Silence silence;
-    std::unique_ptr<HRFDataFolder> folder = newFolder();
+    QTemporaryDir files;
+    std::unique_ptr<HRFDataFolder> folder = HRFOrThrow(HRFDataFolder::take(files.path()));
     HRFDocumentController documents;
     HRFPlaylist &list = documents.newDocument();
 };

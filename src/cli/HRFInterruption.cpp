@@ -1,8 +1,13 @@
 #include "cli/HRFInterruption.h"
 
+#include <QtGlobal>
+
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <initializer_list>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 namespace HRFInterruption {
 
@@ -13,11 +18,25 @@ static_assert(std::atomic<bool>::is_always_lock_free, "set in a signal handler")
 
 } // namespace
 
+int descriptor()
+{
+    static const int theDescriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    return theDescriptor;
+}
+
 void handleSignals()
 {
+    static int wakeUpDescriptor = -1; // the handler must not initialise anything
+    wakeUpDescriptor = descriptor();
     // Without SA_RESTART: a question that waits for an answer ends, too.
     struct sigaction action = {};
-    action.sa_handler = [](int) { requested = true; };
+    action.sa_handler = [](int) {
+        requested = true;
+        const quint64 one = 1;
+        const int reason = errno;
+        static_cast<void>(::write(wakeUpDescriptor, &one, sizeof one) == sizeof one);
+        errno = reason;
+    };
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         ::sigaction(signal, &action, nullptr);
     std::signal(SIGPIPE, SIG_IGN);

@@ -7,5 +7,7 @@ namespace HRFInterruption {
 void handleSignals();
 /// Whether an end was asked for.
 bool isRequested();
+/// Can be read from then on.
+int descriptor();
 
 } // namespace HRFInterruption

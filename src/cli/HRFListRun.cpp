@@ -17,9 +17,9 @@ namespace {
 
 HRFResult<std::unique_ptr<HRFDataFolder>> takeDataFolder(const HRFCommandOptions &options)
 {
-    return options.dataFolder.empty()
-        ? HRFDataFolder::takeTemporary()
-        : HRFDataFolder::take(QFile::decodeName(QByteArray::fromStdString(options.dataFolder)));
+    if (options.dataFolder.empty())
+        return HRFDataFolder::temporary();
+    return HRFDataFolder::take(QFile::decodeName(QByteArray::fromStdString(options.dataFolder)));
 }
 
 /// A list that stays in the order of its files, whatever the windows are sorted by.
@@ -70,6 +70,10 @@ HRFListRun::HRFListRun(const HRFCommandOptions &options, HRFConsole &console)
     constexpr std::chrono::milliseconds betweenLooks(100);
     QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
     m_timer.start(betweenLooks);
+    QObject::connect(&m_interruption, &QSocketNotifier::activated, [this] {
+        m_interruption.setEnabled(false);
+        look();
+    });
 }
 
 HRFListRun::~HRFListRun()
@@ -118,6 +122,7 @@ void HRFListRun::changeFiles(const Change &change)
     std::unique_ptr<HRFProgressDisplay> display;
     if (const auto &progress = m_list.fileManager().writeProgress())
         display = m_interaction.showProgress(progress, {});
+    look(); // what happened while the work was queued
     m_loop.exec();
 }
 
@@ -159,8 +164,9 @@ int HRFListRun::exitStatus()
             u"Interrupted: %1 of %2 files are done"_s.arg(m_finished).arg(m_paths.size()));
         return HRFExitStatus::interrupted;
     }
-    return m_hasFailed || m_console.hasOutputFailed() ? HRFExitStatus::someFailed
-                                                      : HRFExitStatus::done;
+    const bool isIncomplete = m_finished < std::size_t(m_paths.size());
+    return m_hasFailed || isIncomplete || m_console.hasOutputFailed() ? HRFExitStatus::someFailed
+                                                                      : HRFExitStatus::done;
 }
 
 void HRFListRun::fail(const HRFFileReference &path, const HRFError &error)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/HRFConsole.h"
+#include "cli/HRFInterruption.h"
 #include "cli/HRFTerminalInteraction.h"
 #include "document/HRFDocumentController.h"
 #include "document/HRFPlaylist.h"
@@ -8,6 +9,7 @@
 #include <QEventLoop>
 #include <QHash>
 #include <QSet>
+#include <QSocketNotifier>
 #include <QTimer>
 
 class HRFMetaFile;
@@ -73,4 +75,5 @@ private:
     HRFPlaylist &m_list;
     QEventLoop m_loop;
     QTimer m_timer;
+    QSocketNotifier m_interruption{HRFInterruption::descriptor(), QSocketNotifier::Read};
 };

@@ -103,8 +103,10 @@ void HRFFileImportOperation::insertRecord(const HRFFileSnapshot &snapshot)
     constexpr qlonglong filesPerSave = 300;
     auto *record = m_batch->context->newObject<HRFMetaFile>();
     record->setSortIndex(m_sortIndex);
+    HRFFileReferenceTable::preferPath(fileURL()); // the record shows the path that was asked for
     record->setFileURL(m_referenceURL);
-    record->fileInfo().setFileName(fileURL().displayName()); // wherever the file is by now
+    if (record->fileInfo().fileName().isEmpty()) // the file is gone by now
+        record->fileInfo().setFileName(fileURL().displayName());
     record->importValues(snapshot);
     setObjectID(record->objectID());
     setSucceeded(true);

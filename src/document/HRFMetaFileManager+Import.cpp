@@ -10,8 +10,6 @@
 #include "store/HRFUndoSuspension.h"
 #include "tags/HRFTagEngine.h"
 
-#include <QPointer>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -58,7 +56,7 @@ void HRFMetaFileManager::runImport(const std::vector<HRFFoundFile> &files)
     QSet<QString> imported;
     {
         const HRFUndoSuspension noUndo(managedObjectContext());
-        HRFMainThread::runLoggingFailures([&] {
+        HRFUserInteraction::presentFailures([&] {
             if (importFiles(files, imported))
                 saveImport();
         });
@@ -103,11 +101,11 @@ bool HRFMetaFileManager::importFiles(const std::vector<HRFFoundFile> &files,
             endProgress();
         },
         Wait::Yes);
+    const QSet<QString> succeeded = sortOutcomes(operations, isCancelled);
     if (isCancelled) {
         discardRecords(operations);
         return false;
     }
-    const QSet<QString> succeeded = sortOutcomes(operations);
     if (progress->completedUnitCount() == 0 || !saveBackgroundContextAndPresentErrors())
         return false;
     imported = succeeded;
@@ -215,8 +213,9 @@ bool HRFMetaFileManager::saveBackgroundContextAndPresentErrors()
     return false;
 }
 
-/// Reports the files that could not be read; answers those that could.
-QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations)
+/// Reports the files that could not be read; answers those that could. Whoever has cancelled the
+/// import is not bothered with an alert.
+QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations, bool isCancelled)
 {
     QSet<QString> succeeded;
     std::vector<HRFFileProblem> problems;
@@ -232,10 +231,11 @@ QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations)
             invalid.push_back(operation->fileURL());
     }
     HRFMainThread::run(
-        [self = QPointer(this), problems, invalid] {
+        [reference = m_weakSelf.reference(), problems, invalid, isCancelled] {
+            HRFMetaFileManager *self = reference.get();
             if (self && !problems.empty())
                 Q_EMIT self->filesWereNotImported(problems);
-            if (self && !invalid.empty())
+            if (self && !invalid.empty() && !isCancelled)
                 showInvalidFilesError(invalid);
         },
         Wait::No);

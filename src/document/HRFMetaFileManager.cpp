@@ -5,11 +5,11 @@
 #include "kit/HRFMainThread.h"
 #include "operations/HRFProgressWindowController.h"
 #include "operations/HRFTagWriteOperation.h"
+#include "store/HRFDataFolder.h"
 #include "store/HRFMetaFile.h"
 #include "store/HRFMetaTags.h"
 #include "store/HRFSystemFile.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 #include <QUuid>
@@ -55,8 +55,8 @@ void HRFMetaFileManager::resetDatabase()
 {
     HRFRequire(databaseName().contains(u'/'), "[databaseName containsString:@\"/\"]");
     static bool hasWiped = false;
-    if (!std::exchange(hasWiped, true))
-        QFileInfo(storeURL()).dir().removeRecursively();
+    if (!storeURL().isEmpty() && !std::exchange(hasWiped, true))
+        HRFDataFolder::removeSessions(QFileInfo(storeURL()).path());
 }
 
 void HRFMetaFileManager::contextDidChange(const HRFContextChanges &changes)
@@ -84,8 +84,8 @@ void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
 {
     if (changes.empty())
         return;
-    m_writeProgress = std::make_shared<HRFProgress>(qlonglong(changes.size()));
-    m_writeProgress->setLocalizedDescription(tr("Writing Metadata…"));
+    const auto progress = std::make_shared<HRFProgress>(qlonglong(changes.size()));
+    progress->setLocalizedDescription(tr("Writing Metadata…"));
     const auto answers = std::make_shared<HRFAppliedAnswers>();
     std::vector<std::shared_ptr<HRFTagWriteOperation>> operations;
     for (const HRFObjectChange &change : changes) {
@@ -93,13 +93,14 @@ void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
         auto operation = HRFFileOperation::operationWithFile<HRFTagWriteOperation>(file);
         operation->setChangedValues(change.changedValues());
         operation->setAppliedAnswers(answers);
-        operation->setProgress(m_writeProgress);
+        operation->setProgress(progress);
         operation->setLast(operations.size() + 1 == changes.size());
         operations.push_back(std::move(operation));
     }
     // Operations know their progress only as long as somebody holds it.
     m_document.runOperations({operations.begin(), operations.end()},
-                             [progress = m_writeProgress] { static_cast<void>(progress); });
+                             [progress] { static_cast<void>(progress); });
+    m_writeProgress = progress;
 }
 
 void HRFMetaFileManager::renameFiles(const std::vector<HRFMetaFile *> &files)

@@ -3,6 +3,7 @@
 #include "document/HRFFileImportOperation.h"
 #include "document/HRFFileWalker.h"
 #include "kit/HRFBackground.h"
+#include "kit/HRFWeakSelf.h"
 #include "operations/HRFFileManager.h"
 #include "operations/HRFOperationQueue.h"
 #include "store/HRFPersistentStoreManager.h"
@@ -82,7 +83,7 @@ private:
     void read(const Operations &operations);
     void discardRecords(const Operations &operations);
     bool saveBackgroundContextAndPresentErrors();
-    QSet<QString> sortOutcomes(const Operations &operations);
+    QSet<QString> sortOutcomes(const Operations &operations, bool isCancelled);
 
     // On the main thread:
     std::shared_ptr<HRFProgress> beginProgress(std::size_t fileCount);
@@ -108,4 +109,5 @@ private:
     bool m_hasStopped = false; ///< stopImports was called
     std::mutex m_importTurn; ///< lets one import run at a time: what it finds new must stay so
     HRFBackgroundGroup m_imports;
+    const HRFWeakSelf<HRFMetaFileManager> m_weakSelf{this};
 };

@@ -8,8 +8,6 @@
 #include "store/HRFMetaFile.h"
 #include "store/HRFUndoSuspension.h"
 
-#include <QPointer>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -123,10 +121,10 @@ void HRFPlaylist::runOperations(const Operations &operations, std::function<void
     queue.addOperations({operations.begin(), operations.end()}, false);
     const quint64 number = ++m_lastBatch;
     m_batches.emplace(number, Batch{operations, std::move(whenDone)});
-    queue.addBarrierBlock([self = QPointer(this), number] {
+    queue.addBarrierBlock([reference = m_weakSelf.reference(), number] {
         HRFMainThread::run(
-            [self, number] {
-                if (self)
+            [reference, number] {
+                if (HRFPlaylist *self = reference.get())
                     self->operationsDidEnd(self->m_batches.extract(number).mapped());
             },
             Wait::No);
@@ -145,10 +143,10 @@ std::set<std::shared_ptr<HRFProgress>> HRFPlaylist::pendingProgresses() const
 
 void HRFPlaylist::operationsDidEnd(const Batch &batch)
 {
-    const auto tellAll = [self = QPointer(this), batch] {
+    const auto tellAll = [reference = m_weakSelf.reference(), batch] {
         if (batch.whenDone)
             batch.whenDone();
-        if (self)
+        if (HRFPlaylist *self = reference.get())
             Q_EMIT self->fileOperationsDidEnd(batch.operations);
     };
     if (m_shouldClose)
@@ -173,8 +171,8 @@ void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operation
                                            newerTags.value(operation->objectID()));
         },
         false,
-        [self = QPointer(this), whenDone = std::move(whenDone)] {
-            if (self && self->m_window)
+        [reference = m_weakSelf.reference(), whenDone = std::move(whenDone)] {
+            if (HRFPlaylist *self = reference.get(); self && self->m_window)
                 self->m_window->reloadArtworkPane();
             if (whenDone)
                 whenDone();

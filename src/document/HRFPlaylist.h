@@ -118,4 +118,5 @@ private:
     bool m_shouldClose = false;
     std::map<quint64, Batch> m_batches; ///< those that have not ended, by number
     quint64 m_lastBatch = 0;
+    const HRFWeakSelf<HRFPlaylist> m_weakSelf{this};
 };

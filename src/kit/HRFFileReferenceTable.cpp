@@ -7,10 +7,12 @@
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <memory>
 #include <mutex>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -118,6 +120,13 @@ public:
         if (found != m_files.end() && found->place == oldPlace)
             found->place = withSharedFolder(newPlace);
     }
+    void put(const File &file, const Place &place)
+    {
+        const std::lock_guard guard(m_lock);
+        const auto found = m_files.find(file.identity);
+        if (found != m_files.end() && found->birth == file.birth)
+            found->place = withSharedFolder(place);
+    }
     /// Whatever file has the identity now.
     std::optional<Place> placeOf(const Identity &identity) const
     {
@@ -137,6 +146,21 @@ private:
     QSet<QByteArray> m_folders;
 };
 
+/// In an overlay a file is born anew when it is first changed.
+bool keepsBirthTimes(quint64 device, const QByteArray &path)
+{
+    static std::mutex lock; // guards the answers
+    static QHash<quint64, bool> answers;
+    const std::lock_guard guard(lock);
+    auto answer = answers.find(device);
+    if (answer == answers.end()) {
+        struct statfs system = {};
+        const bool isKnown = ::statfs(path.constData(), &system) == 0;
+        answer = answers.insert(device, isKnown && system.f_type != OVERLAYFS_SUPER_MAGIC);
+    }
+    return *answer;
+}
+
 std::optional<File> fileAt(const QByteArray &path)
 {
     struct statx status = {};
@@ -144,8 +168,9 @@ std::optional<File> fileAt(const QByteArray &path)
         != 0)
         return {};
     constexpr qint64 nanosecondsPerSecond = 1'000'000'000;
-    const bool hasBirth = status.stx_mask & STATX_BTIME;
-    return File{{::makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino},
+    const quint64 device = ::makedev(status.stx_dev_major, status.stx_dev_minor);
+    const bool hasBirth = (status.stx_mask & STATX_BTIME) && keepsBirthTimes(device, path);
+    return File{{device, status.stx_ino},
                 hasBirth ? status.stx_btime.tv_sec * nanosecondsPerSecond + status.stx_btime.tv_nsec
                          : 0};
 }
@@ -284,6 +309,12 @@ std::optional<QString> HRFFileReferenceTable::lastKnownFolderForURL(const QStrin
     const std::optional<Reference> reference = referenceFromURL(url);
     const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
     return known ? std::optional(folderOf(known->place)) : std::nullopt;
+}
+
+void HRFFileReferenceTable::preferPath(const HRFFileReference &file)
+{
+    if (const auto present = fileAt(file.nativePath()))
+        Table::shared().put(*present, Place::of(absolutePath(file.nativePath())));
 }
 
 void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFFileReference &to)

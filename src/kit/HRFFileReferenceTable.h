@@ -27,6 +27,9 @@ std::optional<HRFFileReference> fileForURL(const QString &url);
 /// reference that this process has not made; a path URL gives the folder of its path.
 std::optional<QString> lastKnownFolderForURL(const QString &url);
 
+/// Lets the reference of a file that has several paths lead to this one from now on.
+void preferPath(const HRFFileReference &file);
+
 /// To be told when this program has moved a file.
 void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
 

@@ -3,6 +3,8 @@
 #include "kit/HRFAssert.h"
 #include "kit/HRFMainThread.h"
 
+#include <exception>
+
 namespace {
 
 HRFUserInteraction *currentInteraction = nullptr;
@@ -23,4 +25,14 @@ void HRFUserInteraction::setCurrent(HRFUserInteraction *interaction)
 void HRFUserInteraction::presentErrorLater(const HRFError &error)
 {
     HRFMainThread::run([error] { current().presentError(error); }, HRFMainThread::Wait::No);
+}
+
+void HRFUserInteraction::presentFailures(const std::function<void()> &block)
+{
+    try {
+        block();
+    } catch (const std::exception &failure) {
+        presentErrorLater({.domain = QString::fromLatin1(HRFLirraErrorDomain),
+                           .description = QString::fromLocal8Bit(failure.what())});
+    }
 }

@@ -92,6 +92,8 @@ public:
     /// Presents an error when the main thread comes round to it, for those whom somebody waits for.
     /// From any thread.
     static void presentErrorLater(const HRFError &error);
+    /// Runs a block; a failure that it throws is presented later.
+    static void presentFailures(const std::function<void()> &block);
 
     /// Asks a question and waits for the answer.
     virtual HRFAlertAnswer runAlert(const HRFAlert &alert) = 0;

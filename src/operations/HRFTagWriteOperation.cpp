@@ -110,9 +110,11 @@ HRFResult<void> HRFTagWriteOperation::write()
     HRFResult<HRFFileReference> file = findFile();
     while (file) {
         HRFResult<void> written = write(*file);
+        if (written)
+            return written;
         const HRFFileReference tried = *file;
         file = findFile();
-        if (written || !file || *file == tried)
+        if (!file || *file == tried)
             return written;
     }
     return std::unexpected(file.error());

@@ -23,21 +23,21 @@ public:
     /// its list sessions there is removed.
     /// @return an error when another process uses the folder
     [[nodiscard]] static HRFResult<std::unique_ptr<HRFDataFolder>> take(const QString &path);
-    /// Takes a new folder below the system's folder for temporary files, and removes it in the end.
-    /// Such folders of programs that were killed are removed now.
-    [[nodiscard]] static HRFResult<std::unique_ptr<HRFDataFolder>> takeTemporary();
+    /// Lets this process keep its stores in files without a name, which go with it however it ends.
+    static std::unique_ptr<HRFDataFolder> temporary();
 
-    /// The folder in which the stores of this process are: the one taken last. There must be one
-    /// (assertion "HRFDataFolder::take").
+    /// Removes the session files in a folder, and the folder when nothing else is in it.
+    static void removeSessions(const QString &folder);
+
+    /// The folder in which the stores of this process are: the one taken last; empty for temporary.
+    /// There must be one (assertion "HRFDataFolder::take").
     static QString current();
 
     QString path() const { return m_path; }
 
 private:
-    HRFDataFolder(QString path, int lock, bool isTemporary);
-    static HRFResult<std::unique_ptr<HRFDataFolder>> makeTemporary(const QString &parent);
+    HRFDataFolder(QString path, int lock);
 
     QString m_path;
-    int m_lock; ///< descriptor of the locked file
-    bool m_isTemporary;
+    int m_lock; ///< descriptor of the locked file; -1 for temporary
 };

@@ -2,6 +2,7 @@
 
 #include "kit/HRFAssert.h"
 #include "kit/HRFMainThread.h"
+#include "kit/HRFUserInteraction.h"
 #include "store/HRFObjectStore.h"
 
 #include <QScopedValueRollback>
@@ -155,7 +156,9 @@ void HRFMainContext::setValue(HRFManagedObject &object, int property, const QVar
     {
         const std::lock_guard lock(m_lock);
         storeValue(object, property, value);
+        ++m_editCount;
     }
+    m_edits[object.objectID()][property] = m_editCount;
     noteChange(object, property);
 }
 
@@ -209,7 +212,7 @@ void HRFMainContext::tell(bool isFromBackground)
         changes.deleted.push_back(object.get());
     changes.isFromBackground = isFromBackground;
     if (!changes.isEmpty())
-        HRFMainThread::runLoggingFailures([&] { Q_EMIT objectsDidChange(changes); });
+        HRFUserInteraction::presentFailures([&] { Q_EMIT objectsDidChange(changes); });
 }
 
 bool HRFMainContext::hasPendingChanges() const
@@ -261,7 +264,7 @@ void HRFMainContext::copyObject(HRFObjectID objectID, std::vector<Copy> &copies)
     if (place >= m_objects.size() || !m_objects[place])
         return;
     const HRFManagedObject &object = *m_objects[place];
-    copies.push_back({&object.entity(), objectID, object.values()});
+    copies.push_back({&object.entity(), objectID, object.values(), m_editCount});
     for (const HRFRelationshipDescription &relationship : object.entity().relationships)
         if (relationship.cascades)
             copyObject(object.value(relationship.index).toLongLong(), copies);
@@ -305,14 +308,24 @@ void HRFMainContext::merge(HRFPrivateChanges changes)
     for (const HRFObjectID objectID : changes.deleted)
         if (HRFManagedObject *target = object(objectID))
             remove(*target);
+    m_edits.clear();
     tell(true);
+}
+
+bool HRFMainContext::wasEditedSince(const HRFManagedObject &object, int property, quint64 age) const
+{
+    const auto edits = m_edits.find(object.objectID());
+    if (edits == m_edits.end())
+        return false;
+    const auto edit = edits->second.find(property);
+    return edit != edits->second.end() && edit->second > age;
 }
 
 void HRFMainContext::mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source)
 {
     HRFForEachProperty(source.changed, [&](int property) {
         const QVariant value = source.values.value(property);
-        if (object.value(property) == value)
+        if (object.value(property) == value || wasEditedSince(object, property, source.age))
             return;
         {
             const std::lock_guard lock(m_lock);

@@ -4,6 +4,7 @@
 
 #include <QUndoStack>
 
+#include <map>
 #include <mutex>
 #include <unordered_map>
 
@@ -54,6 +55,7 @@ public:
         const HRFEntityDescription *entity;
         HRFObjectID objectID;
         HRFValues values;
+        quint64 age; ///< how many values had been edited when it was made
     };
     /// The present values of an object, and of those that would be deleted with it, so that they
     /// are seen whole or not at all; empty when there is none.
@@ -85,6 +87,7 @@ private:
     };
 
     void copyObject(HRFObjectID objectID, std::vector<Copy> &copies) const;
+    bool wasEditedSince(const HRFManagedObject &object, int property, quint64 age) const;
     void mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source);
     void adopt(std::unique_ptr<HRFManagedObject> object);
     void noteInserted(HRFManagedObject &object);
@@ -101,6 +104,11 @@ private:
     /// reads them without; private contexts read them with the lock held.
     mutable std::mutex m_lock;
     std::vector<std::unique_ptr<HRFManagedObject>> m_objects; ///< by object ID
+
+    /// When a value was edited, by object and property: a private context that copied the object
+    /// before knows less. Only edits since the last merge.
+    std::unordered_map<HRFObjectID, std::map<int, quint64>> m_edits;
+    quint64 m_editCount = 0; ///< guarded by m_lock, too
 
     // The changes of this event:
     std::vector<HRFObjectID> m_inserted;

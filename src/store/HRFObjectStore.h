@@ -37,8 +37,9 @@ public:
         std::vector<std::pair<const HRFEntityDescription *, HRFObjectID>> deleted{};
     };
 
-    /// Opens a store file, or makes it. With Migrates::Yes, properties that the model has gained
-    /// since the file was written appear without values, and those that it has lost go.
+    /// Opens a store file, or makes it; without a path, in a file that goes with the store. With
+    /// Migrates::Yes, properties that the model has gained since the file was written appear
+    /// without values, and those that it has lost go.
     [[nodiscard]] static HRFResult<std::shared_ptr<HRFObjectStore>>
     open(const QString &path, std::shared_ptr<const HRFObjectModel> model, Migrates migrates,
          Durability durability);

@@ -60,6 +60,8 @@ QString HRFPersistentStoreManager::storeURL() const
 
 QString HRFPersistentStoreManager::storeURLForDBName(const QString &name)
 {
+    if (HRFDataFolder::current().isEmpty())
+        return {};
     const QString path = HRFDataFolder::current() + u'/' + name;
     QFileInfo(path).dir().mkpath(u"."_s);
     return path;
@@ -88,7 +90,7 @@ HRFPersistentStoreManager::newStoreCoordinatorWithURL(const QString &url)
         purgeOnQuit() ? HRFObjectStore::Durability::Session : HRFObjectStore::Durability::Lasting;
     m_storeWasReset = !QFile::exists(url);
     auto store = HRFObjectStore::open(url, m_model, Migrates::Yes, durability);
-    if (!store) {
+    if (!store && !url.isEmpty()) {
         m_storeWasReset = QFile::remove(url);
         deleteCompanions(url);
         store = HRFObjectStore::open(url, m_model, Migrates::No, durability);
@@ -135,6 +137,8 @@ void HRFPersistentStoreManager::resetDatabase()
     m_delayedSave.stop();
     m_model.reset();
     m_context.reset();
+    if (path.isEmpty())
+        return;
     m_storeWasReset = QFile::remove(path);
     if (m_storeWasReset)
         deleteCompanions(path);

@@ -38,7 +38,7 @@ public:
     QString modelURL() const;
     /// Stays what it was when the store was opened.
     QString storeURL() const;
-    /// A file in the data folder, the folder of which is made.
+    /// A file in the data folder, the folder of which is made; empty where stores are temporary.
     static QString storeURLForDBName(const QString &name);
 
     /// A context for background work on this store.

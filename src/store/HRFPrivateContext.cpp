@@ -123,9 +123,11 @@ HRFManagedObject *HRFPrivateContext::object(HRFObjectID objectID)
     if (!parent || m_deleted.contains(objectID))
         return nullptr;
     for (HRFMainContext::Copy &copy : parent->copyObject(objectID))
-        if (!m_deleted.contains(copy.objectID) && !m_objects.contains(copy.objectID))
+        if (!m_deleted.contains(copy.objectID) && !m_objects.contains(copy.objectID)) {
             m_objects.emplace(copy.objectID,
                               makeObject(*copy.entity, copy.objectID, std::move(copy.values)));
+            m_ages.emplace(copy.objectID, copy.age);
+        }
     const auto copied = m_objects.find(objectID);
     return copied == m_objects.end() ? nullptr : copied->second.get();
 }
@@ -196,7 +198,9 @@ HRFPrivateChanges HRFPrivateContext::takeChanges()
     HRFPrivateChanges changes;
     const auto take = [this](HRFObjectID objectID, HRFPropertySet changed) {
         const HRFManagedObject &source = *m_objects.at(objectID);
-        return HRFPrivateChanges::Object{&source.entity(), objectID, source.values(), changed};
+        const auto age = m_ages.find(objectID);
+        return HRFPrivateChanges::Object{&source.entity(), objectID, source.values(), changed,
+                                         age == m_ages.end() ? 0 : age->second};
     };
     for (const HRFObjectID objectID : m_inserted) {
         changes.inserted.push_back(take(objectID, 0));
@@ -240,5 +244,6 @@ void HRFPrivateContext::rollback()
     m_objects.clear();
     m_inserted.clear();
     m_changed.clear();
+    m_ages.clear();
     m_deleted.clear();
 }

@@ -24,6 +24,7 @@ struct HRFPrivateChanges
         HRFObjectID objectID;
         HRFValues values;
         HRFPropertySet changed;
+        quint64 age = 0; ///< see HRFMainContext::Copy
     };
     std::vector<Object> inserted{};
     std::vector<Object> updated{};
@@ -81,5 +82,6 @@ private:
     std::unordered_map<HRFObjectID, std::unique_ptr<HRFManagedObject>> m_objects;
     std::vector<HRFObjectID> m_inserted;
     std::unordered_map<HRFObjectID, HRFPropertySet> m_changed;
+    std::unordered_map<HRFObjectID, quint64> m_ages; ///< of the copies
     std::unordered_set<HRFObjectID> m_deleted;
 };

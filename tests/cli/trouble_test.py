@@ -63,6 +63,7 @@ class InterruptionTest(ProgramTest):
 
     def start(self, *arguments):
         """Sets another title, which takes as long as it takes to write a thousand files."""
+        arguments = arguments or ("--data-dir", self.folder / "data")
         command = self.command(*arguments, "set", "-t", "title=new", self.folder / "music")
         return subprocess.Popen(command, env=self.environment(TMPDIR=str(self.temporary)),
                                 stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
@@ -82,10 +83,10 @@ class InterruptionTest(ProgramTest):
         return titles.count(["new"])
 
     def leftovers(self):
-        return [path for path in self.temporary.glob("*/*") if path.is_dir()]
+        return list(self.folder.glob("data/windowSessions/*.sqlite"))
 
     def is_importing(self):
-        return any(self.temporary.glob("*/*/windowSessions/*"))
+        return any(self.leftovers())
 
     def is_writing(self):
         return self.music[0].read_bytes() != TAGGED
@@ -118,6 +119,12 @@ class InterruptionTest(ProgramTest):
         self.assertEqual(self.count_changed(), len(self.music))
         self.assertEqual(self.leftovers(), [])
 
+    def test_killed_without_a_folder_for_data(self):
+        with self.start("--quiet") as process:
+            self.wait_until(self.is_writing, process)
+            process.kill()
+        self.assertEqual(list(self.temporary.iterdir()), [])
+
     def test_data_folder_in_use(self):
         folder = self.folder / "data"
         folder.mkdir()
@@ -130,9 +137,11 @@ class InterruptionTest(ProgramTest):
             self.assertEqual(self.count_changed(), 0)
         (folder / "windowSessions").mkdir()
         (folder / "windowSessions/of-a-killed-program.sqlite").touch()
+        (folder / "windowSessions/of-the-user.mp3").touch()
         with self.start("--data-dir", folder) as process:
             self.assertEqual((process.wait(), process.stderr.read()), (0, b""))
-        self.assertEqual([path.name for path in folder.iterdir()], ["lock"])
+        self.assertEqual({path.name for path in folder.rglob("*")},
+                         {"lock", "windowSessions", "of-the-user.mp3"})
         self.assertEqual(list(self.temporary.iterdir()), [])
 
 

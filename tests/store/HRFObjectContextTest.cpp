@@ -177,6 +177,26 @@ TEST_F(HRFObjectContextTest, ABackgroundSaveTouchesNothingButWhatItChanged)
     EXPECT_EQ(title(file), u"One"_s);
 }
 
+/// What the user edits after the copy was made is newer than what comes back.
+TEST_F(HRFObjectContextTest, NewerEditsStay)
+{
+    const HRFObjectID file = addFile(u"One"_s);
+    tags(file).setValueForKey(u"Before"_s, u"artist"_s);
+    inBackground([&](HRFPrivateContext &context) {
+        HRFMetaTags &copy = context.object<HRFMetaFile>(file)->tags();
+        HRFMainThread::run([&] { tags(file).setValueForKey(u"Newer"_s, u"title"_s); },
+                           HRFMainThread::Wait::Yes);
+        copy.setValueForKey(u"Read"_s, u"title"_s);
+        copy.setValueForKey(u"Read"_s, u"artist"_s);
+    });
+    EXPECT_EQ(title(file), u"Newer"_s);
+    EXPECT_EQ(tags(file).valueForKey(u"artist"_s), u"Read"_s);
+    inBackground([&](HRFPrivateContext &context) {
+        context.object<HRFMetaFile>(file)->tags().setValueForKey(u"Read"_s, u"title"_s);
+    });
+    EXPECT_EQ(title(file), u"Read"_s);
+}
+
 TEST_F(HRFObjectContextTest, PrivateContextsForgetWhatTheyRollBack)
 {
     const HRFObjectID file = addFile(u"One"_s);

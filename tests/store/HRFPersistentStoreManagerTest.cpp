@@ -218,21 +218,22 @@ TEST_F(HRFPersistentStoreManagerTest, NobodyTakesTheFolderOfARunningProgram)
     EXPECT_FALSE(QFile::exists(session));
 }
 
-TEST_F(HRFPersistentStoreManagerTest, TemporaryFoldersGoWithTheirProgram)
+TEST_F(HRFPersistentStoreManagerTest, TemporaryStoresLeaveNothing)
 {
-    QString first;
+    const auto temporary = HRFDataFolder::temporary();
+    write(path(u".hidden"_s), "");
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(path({}));
     {
-        const auto running = *HRFDataFolder::takeTemporary();
-        first = running->path();
-        const auto other = *HRFDataFolder::takeTemporary();
-        EXPECT_TRUE(QFile::exists(first));
-        const QString left = QFileInfo(first).path() + u"/killed"_s;
-        QDir().mkpath(left + u"/windowSessions"_s);
-        const auto next = *HRFDataFolder::takeTemporary();
-        EXPECT_FALSE(QFile::exists(left));
-        EXPECT_TRUE(QFile::exists(first));
+        Manager manager;
+        EXPECT_TRUE(manager.storeWasReset());
+        manager.addFile(u"x"_s);
+        manager.saveChanges();
+        EXPECT_FALSE(manager.managedObjectContext()->hasChanges());
+        manager.resetDatabase();
     }
-    EXPECT_FALSE(QFile::exists(first));
+    QDir::setCurrent(before);
+    EXPECT_THAT(QDir(path({})).entryList(QDir::Files | QDir::Hidden), ElementsAre(u".hidden"_s));
 }
 
 } // namespace
