@@ -83,22 +83,23 @@ std::vector<HRFManagedObject *> HRFMainContext::fetch(const QString &entityName)
 
 bool HRFMainContext::hasChanges() const
 {
-    return !m_unsaved.empty() || !m_unsavedDeletions.empty();
+    return !m_unsaved.empty() || !m_unsavedValues.empty() || !m_unsavedDeletions.empty();
 }
 
 HRFResult<void> HRFMainContext::save()
 {
     processPendingChanges();
     HRFObjectStore::Changes changes{.deleted = m_unsavedDeletions};
-    std::ranges::sort(m_unsaved);
-    const auto repeated = std::ranges::unique(m_unsaved);
-    m_unsaved.erase(repeated.begin(), repeated.end());
     for (const HRFObjectID objectID : m_unsaved)
         if (const HRFManagedObject *unsaved = object(objectID))
             changes.stored.push_back(unsaved);
+    for (const auto &[objectID, properties] : m_unsavedValues)
+        if (const HRFManagedObject *unsaved = object(objectID))
+            changes.updated.emplace_back(unsaved, properties);
     if (auto written = m_store->write(changes); !written)
         return written;
     m_unsaved.clear();
+    m_unsavedValues.clear();
     m_unsavedDeletions.clear();
     return {};
 }
@@ -126,14 +127,8 @@ HRFManagedObject &HRFMainContext::insert(const HRFEntityDescription &entity)
 void HRFMainContext::noteInserted(HRFManagedObject &object)
 {
     m_inserted.push_back(object.objectID());
-    noteUnsaved(object.objectID());
+    m_unsaved.push_back(object.objectID());
     schedulePendingChanges();
-}
-
-void HRFMainContext::noteUnsaved(HRFObjectID objectID)
-{
-    if (m_unsaved.empty() || m_unsaved.back() != objectID)
-        m_unsaved.push_back(objectID);
 }
 
 void HRFMainContext::remove(HRFManagedObject &object)
@@ -168,7 +163,7 @@ void HRFMainContext::noteChange(HRFManagedObject &object, int property)
     found->second |= HRFPropertyBit(property);
     if (isNew)
         m_updatedOrder.push_back(object.objectID());
-    noteUnsaved(object.objectID());
+    m_unsavedValues[object.objectID()] |= HRFPropertyBit(property);
     schedulePendingChanges();
 }
 

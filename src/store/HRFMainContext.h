@@ -91,7 +91,6 @@ private:
     void mergeValues(HRFManagedObject &object, const HRFPrivateChanges::Object &source);
     void adopt(std::unique_ptr<HRFManagedObject> object);
     void noteInserted(HRFManagedObject &object);
-    void noteUnsaved(HRFObjectID objectID);
     void noteChange(HRFManagedObject &object, int property);
     void schedulePendingChanges();
     void tell(bool isFromBackground);
@@ -120,7 +119,8 @@ private:
     QString m_actionName;
 
     // What the store file does not have yet:
-    std::vector<HRFObjectID> m_unsaved; ///< some stand in it several times, or are deleted
+    std::vector<HRFObjectID> m_unsaved; ///< new objects; some may be deleted again
+    std::unordered_map<HRFObjectID, HRFPropertySet> m_unsavedValues; ///< of objects in the file
     std::vector<std::pair<const HRFEntityDescription *, HRFObjectID>> m_unsavedDeletions;
 
     QUndoStack m_undoManager;

@@ -217,6 +217,8 @@ HRFResult<void> HRFObjectStore::write(const Changes &changes)
         SQLite::Transaction transaction(m_database);
         for (const HRFManagedObject *object : changes.stored)
             storeObject(*object);
+        for (const auto &[object, properties] : changes.updated)
+            updateObject(*object, properties);
         for (const auto &[entity, objectID] : changes.deleted) {
             SQLite::Statement &statement = m_deleteStatements[std::size_t(entity->index)];
             statement.tryReset(); // it may have failed the last time
@@ -241,6 +243,42 @@ void HRFObjectStore::storeObject(const HRFManagedObject &object)
         bindValue(statement, firstProperty + property, object.value(property));
     });
     statement.exec();
+}
+
+void HRFObjectStore::updateObject(const HRFManagedObject &object, HRFPropertySet properties)
+{
+    SQLite::Statement &statement = updateStatement(object.entity(), properties);
+    statement.tryReset(); // it may have failed the last time
+    statement.clearBindings();
+    int parameter = 0;
+    HRFForEachProperty(properties, [&](int property) {
+        ++parameter;
+        if (const QVariant value = object.value(property); value.isValid())
+            bindValue(statement, parameter, value);
+    });
+    statement.bind(parameter + 1, int64_t(object.objectID()));
+    statement.exec();
+}
+
+/// An event mostly changes the same properties of many objects.
+SQLite::Statement &HRFObjectStore::updateStatement(const HRFEntityDescription &entity,
+                                                   HRFPropertySet properties)
+{
+    constexpr std::size_t mostStatements = 64;
+    const std::pair key(entity.index, properties);
+    if (const auto found = m_updateStatements.find(key); found != m_updateStatements.end())
+        return found->second;
+    if (m_updateStatements.size() >= mostStatements)
+        m_updateStatements.clear();
+    std::string assignments;
+    HRFForEachProperty(properties, [&](int property) {
+        assignments +=
+            (assignments.empty() ? "" : ", ") + quoted(entity.propertyName(property)) + " = ?";
+    });
+    return m_updateStatements
+        .try_emplace(key, m_database,
+                     "UPDATE " + quoted(entity.name) + " SET " + assignments + " WHERE id = ?")
+        .first->second;
 }
 
 void HRFObjectStore::shareTexts(HRFValues &values)

@@ -7,6 +7,7 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <atomic>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -33,7 +34,8 @@ public:
     };
     struct Changes
     {
-        std::vector<const HRFManagedObject *> stored{};
+        std::vector<const HRFManagedObject *> stored{}; ///< whole
+        std::vector<std::pair<const HRFManagedObject *, HRFPropertySet>> updated{};
         std::vector<std::pair<const HRFEntityDescription *, HRFObjectID>> deleted{};
     };
 
@@ -67,6 +69,9 @@ private:
     void readRows();
     void prepareStatements();
     void storeObject(const HRFManagedObject &object);
+    void updateObject(const HRFManagedObject &object, HRFPropertySet properties);
+    SQLite::Statement &updateStatement(const HRFEntityDescription &entity,
+                                       HRFPropertySet properties);
 
     QString m_path;
     std::shared_ptr<const HRFObjectModel> m_model;
@@ -74,6 +79,8 @@ private:
     /// Per entity, by its place in the model:
     std::vector<SQLite::Statement> m_storeStatements;
     std::vector<SQLite::Statement> m_deleteStatements;
+    /// By entity and properties; those used of late.
+    std::map<std::pair<int, HRFPropertySet>, SQLite::Statement> m_updateStatements;
     std::vector<Row> m_rows;
     std::atomic<HRFObjectID> m_nextObjectID = 1;
 
