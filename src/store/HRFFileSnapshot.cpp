@@ -51,7 +51,9 @@ QDateTime dateOf(const statx_timestamp &time)
 
 QString folderOf(const HRFFileReference &file)
 {
-    const QString path = QFileInfo(file.displayPath()).absoluteFilePath();
+    QString path = file.displayPath();
+    if (!path.startsWith(u'/'))
+        path = QFileInfo(path).absoluteFilePath();
     return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
 }
 

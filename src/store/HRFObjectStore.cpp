@@ -113,10 +113,12 @@ HRFObjectStore::open(const QString &path, std::shared_ptr<const HRFObjectModel> 
 
 void HRFObjectStore::configure(Durability durability)
 {
-    m_database.exec("PRAGMA journal_mode = WAL");
-    // A session is worth nothing after a crash of the machine.
-    m_database.exec(durability == Durability::Session ? "PRAGMA synchronous = OFF"
-                                                      : "PRAGMA synchronous = NORMAL");
+    // Nobody else uses the file, and a session is worth nothing after a crash.
+    m_database.exec("PRAGMA locking_mode = EXCLUSIVE");
+    if (durability == Durability::Session)
+        m_database.exec("PRAGMA journal_mode = MEMORY; PRAGMA synchronous = OFF");
+    else
+        m_database.exec("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL");
 }
 
 void HRFObjectStore::makeTables(Migrates migrates)

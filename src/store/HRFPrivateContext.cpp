@@ -196,18 +196,19 @@ bool HRFPrivateContext::hasChanges() const
 HRFPrivateChanges HRFPrivateContext::takeChanges()
 {
     HRFPrivateChanges changes;
-    const auto take = [this](HRFObjectID objectID, HRFPropertySet changed) {
-        const HRFManagedObject &source = *m_objects.at(objectID);
-        const auto age = m_ages.find(objectID);
-        return HRFPrivateChanges::Object{&source.entity(), objectID, source.values(), changed,
-                                         age == m_ages.end() ? 0 : age->second};
-    };
     for (const HRFObjectID objectID : m_inserted) {
-        changes.inserted.push_back(take(objectID, 0));
+        const HRFManagedObject &source = *m_objects.at(objectID);
+        changes.inserted.push_back({&source.entity(), objectID, source.values(), 0});
         m_changed.erase(objectID);
     }
-    for (const auto &[objectID, changed] : m_changed)
-        changes.updated.push_back(take(objectID, changed));
+    for (const auto &[objectID, changed] : m_changed) {
+        const HRFManagedObject &source = *m_objects.at(objectID);
+        HRFValues values;
+        HRFForEachProperty(
+            changed, [&](int property) { values.setValue(property, source.value(property)); });
+        changes.updated.push_back(
+            {&source.entity(), objectID, std::move(values), changed, m_ages.at(objectID)});
+    }
     changes.deleted.assign(m_deleted.begin(), m_deleted.end());
     return changes;
 }
