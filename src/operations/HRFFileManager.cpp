@@ -1,13 +1,19 @@
 #include "operations/HRFFileManager.h"
 
 #include "kit/HRFFileReferenceTable.h"
-#include "operations/HRFExclusiveRename.h"
+#include "kit/HRFMainThread.h"
+#include "kit/HRFUserInteraction.h"
+#include "operations/HRFFileReference+Access.h"
+#include "operations/HRFFileReference+Locations.h"
+#include "operations/HRFItemMove.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdio>
+#include <filesystem>
+#include <limits.h>
 #include <sys/stat.h>
 
 namespace {
@@ -17,67 +23,19 @@ QString tr(const char *text)
     return QCoreApplication::translate("HRFFileManager", text);
 }
 
-struct FileCode
+/// To be known before anything is touched.
+bool hasOverlongName(const HRFFileReference &file)
 {
-    int failure;
-    int code;
-};
-
-constexpr std::array fileCodes{
-    FileCode{EEXIST, HRFFileErrorCode::writeFileExists},
-    FileCode{EACCES, HRFFileErrorCode::writeNoPermission},
-    FileCode{EPERM, HRFFileErrorCode::writeNoPermission},
-    FileCode{EROFS, HRFFileErrorCode::writeNoPermission},
-    FileCode{ENOENT, HRFFileErrorCode::noSuchFile},
-};
-
-QString reasonFor(int failure, const HRFFileReference &destination)
-{
-    if (failure == EEXIST)
-        return tr("An item named “%1” already exists in this location.")
-            .arg(destination.displayName());
-    if (failure == ENAMETOOLONG)
-        return tr("The name is too long.");
-    return HRFError::fromErrno(failure).description;
-}
-
-HRFError moveError(int failure, const HRFFileReference &source, const HRFFileReference &destination)
-{
-    HRFError error = HRFError::fromErrno(failure);
-    for (const FileCode &row : fileCodes) {
-        if (row.failure != failure)
-            continue;
-        error.underlying = std::make_shared<const HRFError>(error);
-        error.domain = QString::fromLatin1(HRFFileErrorDomain);
-        error.code = row.code;
-    }
-    error.description =
-        tr("“%1” could not be moved to “%2”").arg(source.displayName(), destination.displayName());
-    error.recoverySuggestion = reasonFor(failure, destination);
-    error.path = source.displayPath();
-    return error;
-}
-
-/// Whether two paths differ in letter case at most and lead to one item: on file systems that do
-/// not tell case apart, an item is in the way of itself.
-bool isSameItem(const HRFFileReference &one, const HRFFileReference &other)
-{
-    struct stat first{};
-    struct stat second{};
-    return one.displayPath().compare(other.displayPath(), Qt::CaseInsensitive) == 0
-        && ::lstat(one.nativePath().constData(), &first) == 0
-        && ::lstat(other.nativePath().constData(), &second) == 0 && first.st_dev == second.st_dev
-        && first.st_ino == second.st_ino;
+    const QList<QByteArray> names = file.nativePath().split('/');
+    return std::ranges::any_of(names,
+                               [](const QByteArray &name) { return name.size() > NAME_MAX; });
 }
 
 /// 0, or an errno.
-int rename(const HRFFileReference &source, const HRFFileReference &destination, bool replaces)
+int runOnce(const HRFTransfer &transfer, bool replaces)
 {
-    const QByteArray &from = source.nativePath();
-    const QByteArray &to = destination.nativePath();
-    if (!replaces)
-        return HRFExclusiveRename(from, to);
-    return ::rename(from.constData(), to.constData()) == 0 ? 0 : errno;
+    const auto run = transfer.kind == HRFTransfer::Kind::Move ? HRFMoveItem : HRFCopyItemIntoPlace;
+    return run(transfer.source.nativePath(), transfer.destination.nativePath(), replaces);
 }
 
 /// The path with a number behind the base name: "a 2.mp3".
@@ -92,24 +50,185 @@ HRFFileReference numbered(const HRFFileReference &file, int number)
                                             + path.sliced(std::min(baseEnd + 1, path.size())));
 }
 
+/// 0, or the failure that made it necessary.
+int makeWritable(int failure, const HRFFileReference &folder)
+{
+    constexpr mode_t mode = 0755;
+    return ::chmod(folder.nativePath().constData(), mode) == 0 ? 0 : failure;
+}
+
 } // namespace
 
 HRFResult<HRFFileReference> HRFFileManager::moveItemAtURL(const HRFFileReference &source,
                                                           const HRFFileReference &destination)
 {
-    const bool replaces =
-        m_fileExistsRecovery == HRFFileExistsRecovery::Replace || isSameItem(source, destination);
-    HRFFileReference place = destination;
-    int failure = rename(source, place, replaces);
-    if (m_fileExistsRecovery == HRFFileExistsRecovery::KeepBoth) {
-        constexpr int lastNumber = 999;
-        for (int number = 2; failure == EEXIST && number <= lastNumber; ++number) {
-            place = numbered(destination, number);
-            failure = rename(source, place, false);
-        }
+    return perform({HRFTransfer::Kind::Move, source, destination});
+}
+
+HRFResult<HRFFileReference> HRFFileManager::copyItemAtURL(const HRFFileReference &source,
+                                                          const HRFFileReference &destination)
+{
+    return perform({HRFTransfer::Kind::Copy, source, destination});
+}
+
+HRFResult<HRFFileReference> HRFFileManager::atomicCopyItemAtURL(const HRFFileReference &source,
+                                                                const HRFFileReference &destination)
+{
+    const HRFTransfer transfer{HRFTransfer::Kind::Copy, source, destination};
+    const int failure = hasOverlongName(destination) ? ENAMETOOLONG : runOnce(transfer, true);
+    if (failure != 0)
+        return std::unexpected(HRFErrorForTransfer(transfer, failure));
+    return destination;
+}
+
+HRFResult<HRFFileReference> HRFFileManager::perform(const HRFTransfer &transfer)
+{
+    const HRFResult<HRFFileReference> done = attempt(transfer, false);
+    if (done || !HRFIsFileExistsError(done.error()))
+        return done;
+    return attemptFixingFileExistsError(done.error(), m_fileExistsRecovery, transfer);
+}
+
+HRFResult<HRFFileReference> HRFFileManager::attempt(const HRFTransfer &transfer, bool replaces)
+{
+    // Enough for a file, its folder and a new folder; what is barred after that stays so.
+    constexpr int mostFixes = 6;
+    int failure =
+        hasOverlongName(transfer.destination) ? ENAMETOOLONG : runOnce(transfer, replaces);
+    for (int fixes = 0; failure != 0 && fixes < mostFixes; ++fixes) {
+        failure = fix(failure, transfer);
+        if (failure != 0)
+            break;
+        failure = runOnce(transfer, replaces);
     }
     if (failure != 0)
-        return std::unexpected(moveError(failure, source, place));
-    HRFFileReferenceTable::fileDidMove(source, place);
-    return place;
+        return std::unexpected(HRFErrorForTransfer(transfer, failure));
+    if (transfer.kind == HRFTransfer::Kind::Move)
+        HRFFileReferenceTable::fileDidMove(transfer.source, transfer.destination);
+    return transfer.destination;
+}
+
+HRFResult<HRFFileReference>
+HRFFileManager::attemptFixingFileExistsError(const HRFError &error, HRFFileExistsRecovery recovery,
+                                             const HRFTransfer &transfer)
+{
+    struct Fix
+    {
+        HRFFileExistsRecovery recovery;
+        HRFResult<HRFFileReference> (HRFFileManager::*run)(const HRFTransfer &);
+    };
+    static constexpr std::array fixes{
+        Fix{HRFFileExistsRecovery::KeepBoth, &HRFFileManager::keepBoth},
+        Fix{HRFFileExistsRecovery::Replace, &HRFFileManager::replace},
+    };
+    const auto *row = std::ranges::find(fixes, recovery, &Fix::recovery);
+    if (row == fixes.end())
+        return std::unexpected(error);
+    return (this->*row->run)(transfer);
+}
+
+HRFResult<HRFFileReference> HRFFileManager::keepBoth(const HRFTransfer &transfer)
+{
+    constexpr int lastNumber = 999;
+    for (int number = 2;; ++number) {
+        const auto place = numbered(transfer.destination, number);
+        const auto done = attempt({transfer.kind, transfer.source, place}, false);
+        if (done || !HRFIsFileExistsError(done.error()) || number == lastNumber)
+            return done;
+    }
+}
+
+HRFResult<HRFFileReference> HRFFileManager::replace(const HRFTransfer &transfer)
+{
+    return attempt(transfer, true);
+}
+
+int HRFFileManager::fix(int failure, const HRFTransfer &transfer) const
+{
+    struct Fix
+    {
+        int code;
+        int (HRFFileManager::*run)(int, const HRFTransfer &) const;
+    };
+    static constexpr std::array fixes{
+        Fix{HRFFileErrorCode::writeNoPermission, &HRFFileManager::fixPermissions},
+        Fix{HRFFileErrorCode::noSuchFile, &HRFFileManager::fixMissingFolder},
+    };
+    const auto *row = std::ranges::find(fixes, HRFFileErrorCodeForErrno(failure), &Fix::code);
+    return row == fixes.end() ? failure : (this->*row->run)(failure, transfer);
+}
+
+int HRFFileManager::fixPermissions(int failure, const HRFTransfer &transfer) const
+{
+    if (transfer.kind == HRFTransfer::Kind::Copy)
+        return fixDestinationPermissions(failure, transfer.destination);
+    if (isLocked(transfer.source))
+        return m_unlockFiles && setLocked(transfer.source, false) ? 0 : failure;
+    const HRFFileReference folder = parentURL(transfer.source);
+    if (!isAccessibleForReading(folder))
+        return failure;
+    if (isAccessibleForWriting(folder))
+        return fixDestinationPermissions(failure, transfer.destination);
+    return m_fixPermissions ? makeWritable(failure, folder) : failure;
+}
+
+int HRFFileManager::fixDestinationPermissions(int failure,
+                                              const HRFFileReference &destination) const
+{
+    const HRFFileReference folder = firstExistingAncestorURL(parentURL(destination));
+    const bool isBarred = isAccessibleForReading(folder) && !isAccessibleForWriting(folder);
+    return m_fixPermissions && isBarred ? makeWritable(failure, folder) : failure;
+}
+
+int HRFFileManager::fixMissingFolder(int failure, const HRFTransfer &transfer) const
+{
+    struct stat status{};
+    if (!m_createMissingDirectories
+        || ::lstat(transfer.source.nativePath().constData(), &status) != 0)
+        return failure;
+    const HRFFileReference folder = parentURL(transfer.destination);
+    std::error_code creation;
+    std::filesystem::create_directories(folder.nativePath().toStdString(), creation);
+    if (HRFFileErrorCodeForErrno(creation.value()) == HRFFileErrorCode::writeNoPermission)
+        return fixDestinationPermissions(creation.value(), folder);
+    // Told of a link that leads nowhere: what is in the way is not the destination.
+    return creation.value() == EEXIST ? ENOTDIR : creation.value();
+}
+
+HRFFileExistsRecovery
+HRFFileManager::userRequestedRecoveryForFileExistsError(const HRFFileReference &destination,
+                                                        bool showSuppression)
+{
+    auto recovery = HRFFileExistsRecovery::Stop;
+    const auto decide = [&] {
+        recovery = m_appliedToAllRecovery != HRFFileExistsRecovery::Stop
+            ? m_appliedToAllRecovery
+            : ask(destination, showSuppression);
+    };
+    HRFMainThread::run(decide, HRFMainThread::Wait::Yes);
+    return recovery;
+}
+
+HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, bool showSuppression)
+{
+    const std::array recoveries{HRFFileExistsRecovery::KeepBoth, HRFFileExistsRecovery::Replace,
+                                HRFFileExistsRecovery::Stop};
+    HRFAlert alert;
+    alert.message = tr("An item named “%1” already exists in this location.")
+                        .arg(destination.displayName().replace(u':', u'/'));
+    alert.informativeText = tr("Do you want to replace it with the one you’re moving?");
+    alert.icon = destination;
+    alert.buttons = {
+        {.title = tr("Keep Both")},
+        {.title = tr("Replace"), .isDestructive = true},
+        {.title = tr("Stop"), .role = HRFAnswerRole::Cancel, .alternateTitle = tr("Skip")}};
+    if (showSuppression)
+        alert.suppressionTitle = tr("Apply to All");
+    const HRFAlertAnswer answer = HRFUserInteraction::current().runAlert(alert);
+    HRFFileExistsRecovery recovery = recoveries.at(answer.button);
+    if (recovery == HRFFileExistsRecovery::Stop && answer.isAlternate)
+        recovery = HRFFileExistsRecovery::Skip;
+    if (answer.isSuppressed)
+        m_appliedToAllRecovery = recovery;
+    return recovery;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "kit/HRFError.h"
-#include "kit/HRFFileReference.h"
+#include "operations/HRFTransfer.h"
 
 /// What to do about an item that is in the way.
 enum class HRFFileExistsRecovery {
@@ -11,21 +10,62 @@ enum class HRFFileExistsRecovery {
     Replace = 3,
 };
 
-/// Moves files, and gets over what stands in the way.
+/// Moves and copies files, and gets over what stands in the way.
+///
+/// Moving and copying answer where the item is now, or an error that names it: of
+/// HRFFileErrorDomain 516 when the destination exists, 513 without permission, 4 when there is no
+/// such item or folder, else of HRFPOSIXErrorDomain. The settings are made before the first use;
+/// after that one thread at a time may move and copy.
 class HRFFileManager
 {
 public:
-    HRFFileExistsRecovery fileExistsRecovery() const { return m_fileExistsRecovery; }
+    /// Whether a locked file is unlocked to move it.
+    void setUnlockFiles(bool unlocks) { m_unlockFiles = unlocks; }
+    /// Whether a folder that may not be written gets other permissions.
+    void setFixPermissions(bool fixes) { m_fixPermissions = fixes; }
+    /// Whether the folder of the destination is made where it is missing.
+    void setCreateMissingDirectories(bool creates) { m_createMissingDirectories = creates; }
+    /// What moveItemAtURL and copyItemAtURL themselves do about an item that is in the way.
     void setFileExistsRecovery(HRFFileExistsRecovery recovery) { m_fileExistsRecovery = recovery; }
+    /// The answer to all questions about items that are in the way; with Stop, the user is asked.
+    void setAppliedToAllRecovery(HRFFileExistsRecovery answer) { m_appliedToAllRecovery = answer; }
 
-    /// Moves an item within its volume. Nothing is overwritten unless fileExistsRecovery says so.
-    ///
-    /// @return where the item is now, or an error that names it: of HRFFileErrorDomain 516 when the
-    /// destination exists, 513 without permission, 4 when there is no such item or folder, else of
-    /// HRFPOSIXErrorDomain
+    /// Nothing is overwritten unless fileExistsRecovery says so.
     [[nodiscard]] HRFResult<HRFFileReference> moveItemAtURL(const HRFFileReference &source,
                                                             const HRFFileReference &destination);
+    [[nodiscard]] HRFResult<HRFFileReference> copyItemAtURL(const HRFFileReference &source,
+                                                            const HRFFileReference &destination);
+    /// Copies an item to the place of another one, or where there is none, in one step.
+    [[nodiscard]] static HRFResult<HRFFileReference>
+    atomicCopyItemAtURL(const HRFFileReference &source, const HRFFileReference &destination);
+
+    /// Asks the user on the main thread, from whatever thread, unless there is an answer for all.
+    ///
+    /// @param showSuppression whether to offer "Apply to All"
+    HRFFileExistsRecovery
+    userRequestedRecoveryForFileExistsError(const HRFFileReference &destination,
+                                            bool showSuppression);
+    /// Does the transfer that failed with the error after all; Stop and Skip leave it at that.
+    [[nodiscard]] HRFResult<HRFFileReference>
+    attemptFixingFileExistsError(const HRFError &error, HRFFileExistsRecovery recovery,
+                                 const HRFTransfer &transfer);
 
 private:
+    HRFResult<HRFFileReference> perform(const HRFTransfer &transfer);
+    HRFResult<HRFFileReference> attempt(const HRFTransfer &transfer, bool replaces);
+    HRFResult<HRFFileReference> keepBoth(const HRFTransfer &transfer);
+    HRFResult<HRFFileReference> replace(const HRFTransfer &transfer);
+    HRFFileExistsRecovery ask(const HRFFileReference &destination, bool showSuppression);
+
+    // 0 when the transfer may be tried again, else the errno to report:
+    int fix(int failure, const HRFTransfer &transfer) const;
+    int fixPermissions(int failure, const HRFTransfer &transfer) const;
+    int fixDestinationPermissions(int failure, const HRFFileReference &destination) const;
+    int fixMissingFolder(int failure, const HRFTransfer &transfer) const;
+
+    bool m_unlockFiles = true;
+    bool m_fixPermissions = true;
+    bool m_createMissingDirectories = false;
     HRFFileExistsRecovery m_fileExistsRecovery = HRFFileExistsRecovery::Stop;
+    HRFFileExistsRecovery m_appliedToAllRecovery = HRFFileExistsRecovery::Stop; ///< main thread
 };

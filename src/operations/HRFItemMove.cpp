@@ -1,0 +1,153 @@
+#include "operations/HRFItemMove.h"
+
+#include "operations/HRFDescriptor.h"
+#include "operations/HRFExclusiveRename.h"
+#include "operations/HRFItemCopy.h"
+
+#include <QString>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+int removeItem(const QByteArray &path)
+{
+    std::error_code failure;
+    fs::remove_all(path.toStdString(), failure);
+    return failure.value();
+}
+
+QByteArray folderOf(const QByteArray &path)
+{
+    return path.first(path.lastIndexOf('/') + 1) + '.';
+}
+
+/// An empty folder beside an item, removed with all that is in it at the end of the scope.
+class TemporaryFolder
+{
+public:
+    explicit TemporaryFolder(const QByteArray &item) : m_path(folderOf(item) + "/.lirra-XXXXXX")
+    {
+        m_failure = ::mkdtemp(m_path.data()) != nullptr ? 0 : errno;
+    }
+    TemporaryFolder(const TemporaryFolder &) = delete;
+    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
+    ~TemporaryFolder()
+    {
+        if (m_failure == 0 && removeItem(m_path) != 0)
+            qWarning("Failed to remove temp directory after atomic copy: %s", m_path.constData());
+    }
+
+    int failure() const { return m_failure; }
+    /// Without an extension, so that nobody takes an unfinished file for an audio file.
+    QByteArray item() const { return m_path + "/item"; }
+
+private:
+    QByteArray m_path;
+    int m_failure = 0;
+};
+
+bool isFolder(const QByteArray &path)
+{
+    struct stat status{};
+    return ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Whether an item is to be copied into itself.
+bool leadsInto(const QByteArray &path, const QByteArray &item)
+{
+    std::error_code failure;
+    const fs::path folder = fs::canonical(folderOf(path).toStdString(), failure);
+    const fs::path outer = fs::canonical(item.toStdString(), failure);
+    const auto ends = std::mismatch(outer.begin(), outer.end(), folder.begin(), folder.end());
+    return isFolder(item) && !failure && ends.first == outer.end();
+}
+
+int renameItem(const QByteArray &from, const QByteArray &to, bool replaces)
+{
+    if (!replaces)
+        return HRFExclusiveRename(from, to);
+    return ::rename(from.constData(), to.constData()) == 0 ? 0 : errno;
+}
+
+int flushFolderOf(const QByteArray &path)
+{
+    const HRFDescriptor folder(
+        ::open(folderOf(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen())
+        return errno;
+    // Some file systems cannot do it for folders.
+    return ::fsync(folder.get()) == 0 || errno == EINVAL ? 0 : errno;
+}
+
+int copyAndRename(const QByteArray &from, const QByteArray &to, bool replaces)
+{
+    const TemporaryFolder temporary(to);
+    int failure = temporary.failure();
+    if (failure == 0)
+        failure = HRFCopyItem(from, temporary.item());
+    return failure == 0 ? renameItem(temporary.item(), to, replaces) : failure;
+}
+
+int moveAcrossFileSystems(const QByteArray &from, const QByteArray &to, bool replaces)
+{
+    int failure = HRFCopyItemIntoPlace(from, to, replaces);
+    if (failure != 0)
+        return failure;
+    failure = removeItem(from);
+    // Part of a folder may have gone; its copy is whole, and must stay then. So must a copy that
+    // has taken the place of something.
+    if (failure != 0 && !replaces && !isFolder(from))
+        removeItem(to);
+    return failure;
+}
+
+/// Whether two paths are one entry of a folder. On file systems that do not tell case apart, an
+/// item is in the way of itself.
+bool isSameEntry(const QByteArray &one, const QByteArray &other)
+{
+    const auto isSame = [](const QByteArray &first, const QByteArray &second) {
+        struct stat a{};
+        struct stat b{};
+        return ::lstat(first.constData(), &a) == 0 && ::lstat(second.constData(), &b) == 0
+            && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+    };
+    const auto name = [](const QByteArray &path) {
+        return QString::fromUtf8(path.sliced(path.lastIndexOf('/') + 1));
+    };
+    return name(one).compare(name(other), Qt::CaseInsensitive) == 0 && isSame(one, other)
+        && isSame(folderOf(one), folderOf(other));
+}
+
+} // namespace
+
+int HRFCopyItemIntoPlace(const QByteArray &from, const QByteArray &to, bool replaces)
+{
+    struct stat status{};
+    if (!replaces && ::lstat(to.constData(), &status) == 0)
+        return EEXIST;
+    if (leadsInto(to, from))
+        return EINVAL;
+    int failure = copyAndRename(from, to, replaces);
+    if (failure != 0)
+        return failure;
+    failure = flushFolderOf(to);
+    if (failure != 0 && !replaces)
+        removeItem(to);
+    return failure;
+}
+
+int HRFMoveItem(const QByteArray &from, const QByteArray &to, bool replaces)
+{
+    const bool mayReplace = replaces || isSameEntry(from, to);
+    const int failure = renameItem(from, to, mayReplace);
+    return failure == EXDEV ? moveAcrossFileSystems(from, to, mayReplace) : failure;
+}

@@ -1,0 +1,95 @@
+#include "operations/HRFMoveOperation.h"
+
+#include "kit/HRFAssert.h"
+#include "kit/HRFMainThread.h"
+#include "kit/HRFUserInteraction.h"
+
+namespace {
+
+/// Paths that are not UTF-8 must not look the same because of what is shown for their bytes.
+bool differInCaseAtMost(const HRFFileReference &one, const HRFFileReference &other)
+{
+    const bool isText = one.isValidUtf8() && other.isValidUtf8();
+    return isText ? one.displayPath().compare(other.displayPath(), Qt::CaseInsensitive) == 0
+                  : one.nativePath().compare(other.nativePath(), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+HRFFileReference HRFMoveOperation::srcURL() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_srcURL;
+}
+
+HRFFileReference HRFMoveOperation::dstURL() const
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    return m_dstURL;
+}
+
+void HRFMoveOperation::setDstURL(const HRFFileReference &destination)
+{
+    const std::lock_guard lock(m_fieldsMutex);
+    m_dstURL = destination;
+}
+
+void HRFMoveOperation::main()
+{
+    HRFRequire(m_fileManager != nullptr, "fileManager");
+    if (isCancelledWithBatch())
+        return;
+    const HRFResult<HRFFileReference> source = findFile();
+    HRFResult<HRFFileReference> result = source ? transfer(*source) : source;
+    if (!result && HRFIsFileExistsError(result.error())) {
+        const auto recovery =
+            m_fileManager->userRequestedRecoveryForFileExistsError(dstURL(), !isLast());
+        result = m_fileManager->attemptFixingFileExistsError(result.error(), recovery,
+                                                             {kind(), *source, dstURL()});
+        if (recovery == HRFFileExistsRecovery::Stop || recovery == HRFFileExistsRecovery::Skip)
+            return leaveOut(result.error(), recovery);
+    }
+    finish(result);
+}
+
+HRFTransfer::Kind HRFMoveOperation::kind() const
+{
+    return m_isCopyOperation ? HRFTransfer::Kind::Copy : HRFTransfer::Kind::Move;
+}
+
+HRFResult<HRFFileReference> HRFMoveOperation::transfer(const HRFFileReference &source)
+{
+    const HRFFileReference destination = dstURL();
+    {
+        const std::lock_guard lock(m_fieldsMutex);
+        m_srcURL = source;
+    }
+    if (m_isCopyOperation)
+        return m_fileManager->copyItemAtURL(source, destination);
+    // A move that changes nothing but letter case is not made, and is no failure.
+    if (differInCaseAtMost(source, destination))
+        return source;
+    return m_fileManager->moveItemAtURL(source, destination);
+}
+
+void HRFMoveOperation::leaveOut(const HRFError &error, HRFFileExistsRecovery recovery)
+{
+    setError(error);
+    const std::shared_ptr<HRFProgress> batch = progress();
+    if (recovery == HRFFileExistsRecovery::Stop && batch)
+        batch->cancel();
+}
+
+void HRFMoveOperation::finish(const HRFResult<HRFFileReference> &result)
+{
+    if (!result) {
+        setError(result.error());
+        const auto present = [&] { HRFUserInteraction::current().presentError(result.error()); };
+        HRFMainThread::run(present, HRFMainThread::Wait::Yes);
+        return;
+    }
+    setDstURL(*result);
+    setSucceeded(true);
+    if (const std::shared_ptr<HRFProgress> batch = progress())
+        batch->addCompleted();
+}
