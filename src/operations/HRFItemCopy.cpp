@@ -35,7 +35,7 @@ int copyBytes(int original, int copy)
     // Some file systems let files share their bytes until one of them is changed.
     if (::ioctl(copy, FICLONE, original) == 0)
         return 0;
-    constexpr qsizetype pieceSize = 1 << 20;
+    constexpr qsizetype pieceSize = 1 << 17;
     QByteArray piece(pieceSize, Qt::Uninitialized);
     for (;;) {
         const ssize_t count = ::read(original, piece.data(), std::size_t(pieceSize));

@@ -97,15 +97,37 @@ int copyAndRename(const QByteArray &from, const QByteArray &to, bool replaces)
     return failure == 0 ? renameItem(temporary.item(), to, replaces) : failure;
 }
 
+/// 0, or an errno: that of a removal that would fail, or EBUSY when the item is another one, or
+/// another program has written to it. A file system that is mounted twice may show a new copy at
+/// the old path.
+int obstacleToRemoving(const QByteArray &path, const struct stat &before)
+{
+    struct stat now{};
+    if (::faccessat(AT_FDCWD, folderOf(path).constData(), W_OK | X_OK, AT_EACCESS) != 0
+        || ::lstat(path.constData(), &now) != 0)
+        return errno;
+    const bool isUnchanged = now.st_dev == before.st_dev && now.st_ino == before.st_ino
+        && now.st_size == before.st_size && now.st_mtim.tv_sec == before.st_mtim.tv_sec
+        && now.st_mtim.tv_nsec == before.st_mtim.tv_nsec;
+    return isUnchanged ? 0 : EBUSY;
+}
+
 int moveAcrossFileSystems(const QByteArray &from, const QByteArray &to, bool replaces)
 {
-    int failure = HRFCopyItemIntoPlace(from, to, replaces);
+    struct stat before{};
+    if (::lstat(from.constData(), &before) != 0)
+        return errno;
+    int failure = obstacleToRemoving(from, before);
+    if (failure == 0)
+        failure = HRFCopyItemIntoPlace(from, to, replaces);
     if (failure != 0)
         return failure;
-    failure = removeItem(from);
+    failure = obstacleToRemoving(from, before);
+    if (failure == 0)
+        failure = removeItem(from);
     // Part of a folder may have gone; its copy is whole, and must stay then. So must a copy that
     // has taken the place of something.
-    if (failure != 0 && !replaces && !isFolder(from))
+    if (failure != 0 && !replaces && !S_ISDIR(before.st_mode))
         removeItem(to);
     return failure;
 }
@@ -147,7 +169,10 @@ int HRFCopyItemIntoPlace(const QByteArray &from, const QByteArray &to, bool repl
 
 int HRFMoveItem(const QByteArray &from, const QByteArray &to, bool replaces)
 {
-    const bool mayReplace = replaces || isSameEntry(from, to);
-    const int failure = renameItem(from, to, mayReplace);
-    return failure == EXDEV ? moveAcrossFileSystems(from, to, mayReplace) : failure;
+    const bool isInPlace = isSameEntry(from, to);
+    const int failure = renameItem(from, to, replaces || isInPlace);
+    if (failure != EXDEV)
+        return failure;
+    // A folder may be mounted at two places.
+    return isInPlace ? 0 : moveAcrossFileSystems(from, to, replaces);
 }

@@ -5,7 +5,6 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -23,8 +22,9 @@ std::string bytesOf(const fs::path &file)
         return fs::read_symlink(file).string();
     if (!fs::is_regular_file(file))
         return {};
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    std::string bytes(fs::file_size(file), '\0');
+    std::ifstream(file, std::ios::binary).read(bytes.data(), std::streamsize(bytes.size()));
+    return bytes;
 }
 
 HRFItemFacts factsOf(const fs::path &item)
