@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <sys/stat.h>
@@ -38,7 +39,7 @@ fs::path resolved(const QByteArray &path)
 /// How many components a path goes on for below a folder; -1 when it is not below it.
 std::ptrdiff_t depthBelow(const fs::path &folder, const fs::path &path)
 {
-    const auto [rest, next] = std::mismatch(folder.begin(), folder.end(), path.begin(), path.end());
+    const auto [rest, next] = std::ranges::mismatch(folder, path);
     return rest == folder.end() ? std::distance(next, path.end()) : -1;
 }
 

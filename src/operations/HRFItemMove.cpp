@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -67,8 +68,7 @@ bool leadsInto(const QByteArray &path, const QByteArray &item)
     std::error_code failure;
     const fs::path folder = fs::canonical(folderOf(path).toStdString(), failure);
     const fs::path outer = fs::canonical(item.toStdString(), failure);
-    const auto ends = std::mismatch(outer.begin(), outer.end(), folder.begin(), folder.end());
-    return isFolder(item) && !failure && ends.first == outer.end();
+    return isFolder(item) && !failure && std::ranges::mismatch(outer, folder).in1 == outer.end();
 }
 
 int renameItem(const QByteArray &from, const QByteArray &to, bool replaces)
