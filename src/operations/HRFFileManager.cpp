@@ -8,12 +8,12 @@
 #include "operations/HRFItemMove.h"
 
 #include <QCoreApplication>
+#include <climits>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <filesystem>
-#include <limits.h>
 #include <sys/stat.h>
 
 namespace {

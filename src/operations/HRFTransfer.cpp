@@ -35,13 +35,14 @@ QString description(const HRFTransfer &transfer)
     const bool isCopy = transfer.kind == HRFTransfer::Kind::Copy;
     const QString name = transfer.source.displayName();
     const QString newName = transfer.destination.displayName();
-    if (name != newName)
-        return (isCopy ? tr("“%1” could not be copied to “%2”")
-                       : tr("“%1” could not be moved to “%2”"))
-            .arg(name, newName);
-    return (isCopy ? tr("“%1” could not be copied to the folder “%2”")
-                   : tr("“%1” could not be moved to the folder “%2”"))
-        .arg(name, parentURL(transfer.destination).displayPath());
+    if (name != newName) {
+        const QString text =
+            isCopy ? tr("“%1” could not be copied to “%2”") : tr("“%1” could not be moved to “%2”");
+        return text.arg(name, newName);
+    }
+    const QString text = isCopy ? tr("“%1” could not be copied to the folder “%2”")
+                                : tr("“%1” could not be moved to the folder “%2”");
+    return text.arg(name, parentURL(transfer.destination).displayPath());
 }
 
 QString reason(const HRFTransfer &transfer, int failure)
