@@ -148,7 +148,7 @@ TEST_F(HRFFileManagerTest, WhatCannotSucceedTouchesNothing)
     HRFFileManager manager;
     manager.setCreateMissingDirectories(true);
     manager.setFileExistsRecovery(Recovery::Replace);
-    for (const auto &[from, to, code] : cases)
+    for (const auto &[from, to, code] : cases) {
         for (const bool isCopy : {false, true}) {
             const auto result = isCopy ? manager.copyItemAtURL(file(from), file(to))
                                        : manager.moveItemAtURL(file(from), file(to));
@@ -156,6 +156,7 @@ TEST_F(HRFFileManagerTest, WhatCannotSucceedTouchesNothing)
             EXPECT_EQ(result.error().code, code) << result.error().fullText().toStdString();
             EXPECT_EQ(HRFTreeAt(here.path()), before) << to.constData();
         }
+    }
 }
 
 TEST_F(HRFFileManagerTest, AtomicCopiesTakeThePlaceOfWhatIsThere)
@@ -186,7 +187,7 @@ TEST_F(HRFFileManagerTest, AcrossFileSystemsAnItemInTheWayIsReplacedOrKept)
 
 TEST_F(HRFFileManagerTest, LockedFilesMoveWhenTheyMayBeUnlocked)
 {
-    for (const HRFTestFolder *folder : {&here, &there})
+    for (const HRFTestFolder *folder : {&here, &there}) {
         for (const bool unlocks : {false, true}) {
             const HRFFileReference source = make("locked.mp3");
             if (!setLocked(source, true))
@@ -201,6 +202,7 @@ TEST_F(HRFFileManagerTest, LockedFilesMoveWhenTheyMayBeUnlocked)
             EXPECT_EQ(contents("locked.mp3"), unlocks ? "" : "locked.mp3");
             std::filesystem::remove(folder->path("moved.mp3").toStdString());
         }
+    }
 }
 
 TEST_F(HRFFileManagerTest, FoldersThatCannotBeWrittenGetOtherPermissions)
@@ -215,7 +217,7 @@ TEST_F(HRFFileManagerTest, FoldersThatCannotBeWrittenGetOtherPermissions)
                           {"to/a.mp3", "to", true},     {"to/b/c/a.mp3", "to", false},
                           {"to/b/c/a.mp3", "to", true}, {"to/b/c/a.mp3", "from", false}};
     const HRFUserRights rights;
-    for (const Case &test : cases)
+    for (const Case &test : cases) {
         for (const bool fixes : {false, true}) {
             const HRFTestFolder folder;
             folder.make("to/other.mp3");
@@ -237,6 +239,7 @@ TEST_F(HRFFileManagerTest, FoldersThatCannotBeWrittenGetOtherPermissions)
             EXPECT_EQ(status.st_mode & 07777, fixes ? 0755U : 0555U);
             ::chmod(folder.path(test.barred).constData(), 0755);
         }
+    }
 }
 
 TEST_F(HRFFileManagerTest, WhatBelongsToOthersStays)

@@ -142,7 +142,7 @@ TEST_F(HRFItemMoveTest, AFileThatIsThereAlreadyByAnotherWayStays)
                 nullptr)
         != 0)
         GTEST_SKIP() << "Nothing can be mounted here";
-    for (const QByteArray name : {"song.mp3", "Song.mp3"})
+    for (const QByteArray name : {"song.mp3", "Song.mp3"}) {
         for (const bool replaces : {false, true}) {
             const int failure =
                 HRFMoveItem(song.nativePath(), there.path("mounted/" + name), replaces);
@@ -150,6 +150,7 @@ TEST_F(HRFItemMoveTest, AFileThatIsThereAlreadyByAnotherWayStays)
             EXPECT_EQ(here.contents(name), "song.mp3") << replaces;
             here.make("song.mp3");
         }
+    }
     EXPECT_EQ(::umount(there.path("mounted").constData()), 0);
 }
 
@@ -239,11 +240,12 @@ TEST_F(HRFItemMoveTest, KilledInTheMiddleEveryFileIsWhole)
             twiceCount += count - 1;
         }
         EXPECT_LE(twiceCount, 1);
-        for (const HRFTestFolder *folder : {&from, &to})
+        for (const HRFTestFolder *folder : {&from, &to}) {
             for (const std::string &name : HRFNamesIn(folder->path())) {
                 EXPECT_TRUE(name.starts_with(".lirra-") || name.ends_with(".mp3")) << name;
                 fs::remove_all((folder->path() + '/').toStdString() + name);
             }
+        }
     }
 }
 

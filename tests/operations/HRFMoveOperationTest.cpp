@@ -98,9 +98,9 @@ TEST_F(HRFMoveOperationTest, TheUserIsAskedAboutWhatIsInTheWay)
     struct Case
     {
         HRFScriptedInteraction::Answer answer;
-        const char *oldContents; ///< of the destination afterwards
-        const char *secondContents;
-        bool isCancelled;
+        const char *oldContents = ""; ///< of the destination afterwards
+        const char *secondContents = "";
+        bool isCancelled = false;
     };
     const Case cases[] = {
         {{u"Keep Both"_s}, "old", "new", false},
