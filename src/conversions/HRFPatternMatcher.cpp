@@ -1,0 +1,175 @@
+#include "conversions/HRFPatternMatcher.h"
+
+#include <QCoreApplication>
+#include <unicode/uchar.h>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In ICU's units, which are about a millisecond of backtracking each.
+constexpr int32_t timeLimit = 1000;
+constexpr int32_t stackLimit = 8'000'000; ///< bytes
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("HRFPatternMatcher", text);
+}
+
+/// The text without a copy of it.
+icu::UnicodeString aliasOf(const QString &text)
+{
+    return {false, text.utf16(), int32_t(text.size())};
+}
+
+QString textOf(const icu::UnicodeString &text)
+{
+    return {reinterpret_cast<const QChar *>(text.getBuffer()), text.length()};
+}
+
+HRFError errorOf(UErrorCode status)
+{
+    return {
+        .domain = QString::fromLatin1(HRFRegularExpressionErrorDomain),
+        .code = int(status),
+        .description =
+            tr("The regular expression failed: %1").arg(QString::fromLatin1(u_errorName(status)))};
+}
+
+HRFError invalidError(UErrorCode status)
+{
+    HRFError error = errorOf(status);
+    error.description = tr("Regular Expression is invalid");
+    error.recoverySuggestion = tr("Make sure that the supplied pattern has a valid Regex syntax, "
+                                  "or toggle Regex matching off.");
+    return error;
+}
+
+HRFError matchError(UErrorCode status)
+{
+    HRFError error = errorOf(status);
+    if (status == U_REGEX_TIME_OUT || status == U_REGEX_STACK_OVERFLOW) {
+        error.description = tr("Matching the pattern takes too long");
+        error.recoverySuggestion = tr("Try a pattern with fewer repetitions.");
+    }
+    return error;
+}
+
+std::unique_ptr<icu::RegexPattern> compiled(const QString &expression, UErrorCode &status)
+{
+    UParseError place;
+    return std::unique_ptr<icu::RegexPattern>(
+        icu::RegexPattern::compile(aliasOf(expression), place, status));
+}
+
+/// The literal text as a regular expression that matches it. In names a slash is a colon.
+QString expressionForLiteral(const QString &literal, HRFRegexMode mode)
+{
+    QString expression;
+    for (const QChar character : literal) {
+        if (mode == HRFRegexMode::Off && u"*?+[](){}^$|\\./"_s.contains(character))
+            expression += u'\\';
+        expression += character;
+    }
+    return expression.replace("\\/"_L1, "[\\/:]"_L1);
+}
+
+/// How many capturing groups an expression has by itself; 0 when it is none.
+std::size_t groupCount(const QString &expression)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const auto pattern = compiled(expression, status);
+    if (U_FAILURE(status))
+        return 0;
+    const std::unique_ptr<icu::RegexMatcher> matcher(pattern->matcher(status));
+    return std::size_t(matcher->groupCount());
+}
+
+/// The number that a text begins with, in the digits of any script; 0 without one.
+qlonglong leadingInteger(const QString &text)
+{
+    using Limits = std::numeric_limits<qlonglong>;
+    constexpr qlonglong base = 10;
+    qlonglong number = 0;
+    for (const char32_t character : text.toUcs4()) {
+        const qlonglong digit = u_charDigitValue(UChar32(character));
+        if (digit < 0)
+            break;
+        if (number > (Limits::max() - digit) / base)
+            return Limits::max();
+        number = number * base + digit;
+    }
+    return number;
+}
+
+} // namespace
+
+HRFResult<HRFPatternMatcher>
+HRFPatternMatcher::matcherForPatternItems(const HRFPatternElements &items, HRFRegexMode mode)
+{
+    HRFPatternMatcher matcher;
+    QString expression;
+    std::size_t ordinal = 0;
+    for (const HRFPatternElement &element : items) {
+        if (const auto *literal = std::get_if<QString>(&element)) {
+            const QString piece = expressionForLiteral(*literal, mode);
+            expression += piece;
+            if (mode == HRFRegexMode::On)
+                matcher.m_groups.resize(matcher.m_groups.size() + groupCount(piece));
+        } else {
+            const auto &item = std::get<HRFPatternItem>(element);
+            matcher.m_groups.push_back(HRFMetaCaptureGroup{item, ordinal++});
+            expression += item.regexString();
+        }
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    matcher.m_expression = compiled(expression, status);
+    if (U_FAILURE(status))
+        return std::unexpected(mode == HRFRegexMode::On ? invalidError(status) : errorOf(status));
+    return matcher;
+}
+
+HRFResult<std::vector<HRFMetaCaptureMatch>>
+HRFPatternMatcher::matchesInString(const QString &source) const
+{
+    // Names on disk may have accents as characters of their own, typed ones have not.
+    const QString text = source.normalized(QString::NormalizationForm_C);
+    const icu::UnicodeString alias = aliasOf(text);
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::RegexMatcher> matcher(m_expression->matcher(alias, status));
+    if (U_FAILURE(status))
+        return std::unexpected(errorOf(status));
+    matcher->setTimeLimit(timeLimit, status);
+    matcher->setStackLimit(stackLimit, status);
+    std::vector<HRFMetaCaptureMatch> found;
+    while (matcher->find(status) && U_SUCCESS(status))
+        addMatch(*matcher, found);
+    if (U_FAILURE(status))
+        return std::unexpected(matchError(status));
+    return found;
+}
+
+void HRFPatternMatcher::addMatch(const icu::RegexMatcher &match,
+                                 std::vector<HRFMetaCaptureMatch> &found) const
+{
+    const std::size_t count = std::min(m_groups.size(), std::size_t(match.groupCount()));
+    for (std::size_t i = 0; i < count; ++i) {
+        UErrorCode status = U_ZERO_ERROR;
+        const int32_t number = int32_t(i) + 1;
+        const bool isCaptured = match.start(number, status) >= 0 && U_SUCCESS(status);
+        if (!isCaptured || !m_groups[i] || m_groups[i]->patternItem.isDummy())
+            continue;
+        const HRFPatternItem &item = m_groups[i]->patternItem;
+        const QString text = textOf(match.group(number, status)).trimmed();
+        found.push_back(
+            {item, item.representsNumericValue() ? QVariant(leadingInteger(text)) : text});
+    }
+}
+
+QString HRFPatternMatcher::pattern() const
+{
+    return textOf(m_expression->pattern());
+}
