@@ -27,7 +27,7 @@ icu::UnicodeString aliasOf(const QString &text)
 
 QString textOf(const icu::UnicodeString &text)
 {
-    return {reinterpret_cast<const QChar *>(text.getBuffer()), text.length()};
+    return QStringView(text.getBuffer(), text.length()).toString();
 }
 
 HRFError errorOf(UErrorCode status)

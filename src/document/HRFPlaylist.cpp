@@ -67,6 +67,16 @@ std::vector<HRFMetaFile *> HRFPlaylist::arrangedFiles() const
     return m_fileController->arrangedObjects();
 }
 
+void HRFPlaylist::setSelectedFiles(const std::vector<HRFMetaFile *> &files)
+{
+    m_fileController->setSelectedObjects(files);
+}
+
+void HRFPlaylist::setUndoActionName(const QString &name)
+{
+    managedObjectContext().setUndoActionName(name);
+}
+
 void HRFPlaylist::close()
 {
     if (m_shouldClose || m_documents.documents().size() > 1)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "conversions/HRFConversionHost.h"
 #include "document/HRFArrayController.h"
 #include "document/HRFMetaFileManager.h"
 #include "document/HRFPlaylistWindow.h"
@@ -26,7 +27,7 @@ enum class HRFProgressDisplayMode {
 /// and the commands on them. It is never saved; its store goes when the program ends.
 ///
 /// All members are for the main thread, but performBlockInBackgroundContext.
-class HRFPlaylist : public QObject
+class HRFPlaylist : public QObject, public HRFConversionHost
 {
     Q_OBJECT
 public:
@@ -41,8 +42,10 @@ public:
     HRFMetaFileManager &fileManager() { return *m_fileManager; }
     HRFMainContext &managedObjectContext() const { return *m_fileManager->managedObjectContext(); }
     HRFArrayController &fileController() { return *m_fileController; }
-    std::vector<HRFMetaFile *> selectedFiles() const;
-    std::vector<HRFMetaFile *> arrangedFiles() const;
+    std::vector<HRFMetaFile *> selectedFiles() const override;
+    std::vector<HRFMetaFile *> arrangedFiles() const override;
+    void setSelectedFiles(const std::vector<HRFMetaFile *> &files) override;
+    void setUndoActionName(const QString &name) override;
     const QUndoStack &undoManager() const { return managedObjectContext().undoManager(); }
     void undo() { managedObjectContext().undo(); }
     void redo() { managedObjectContext().redo(); }
@@ -74,7 +77,8 @@ public:
     /// changes are no edits, and are saved when the call returns, or when whenDone is called, on
     /// the main thread.
     void performBlockInBackgroundContext(std::function<void(HRFPrivateContext &)> block,
-                                         bool wait = false, std::function<void()> whenDone = {});
+                                         bool wait = false,
+                                         std::function<void()> whenDone = {}) override;
     void performBlockInBackgroundContextAndWait(std::function<void(HRFPrivateContext &)> block)
     {
         performBlockInBackgroundContext(std::move(block), true);
