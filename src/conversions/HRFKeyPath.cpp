@@ -31,6 +31,11 @@ const HRFKeyPath *HRFKeyPath::find(const QString &path)
     return found == paths.cend() ? nullptr : &*found;
 }
 
+QVariant HRFKeyPath::value(const HRFMetaFile &file) const
+{
+    return file.related(file.entity().relationships[part].index)->valueForKey(attribute->name);
+}
+
 void HRFKeyPath::setValue(const QVariant &value, HRFMetaFile &file) const
 {
     file.related(file.entity().relationships[part].index)->setValueForKey(value, attribute->name);

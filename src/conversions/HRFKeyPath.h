@@ -19,6 +19,7 @@ struct HRFKeyPath
     /// nullptr when the path leads nowhere. From any thread.
     static const HRFKeyPath *find(const QString &path);
 
-    /// Sets the value there; on the record's thread.
+    /// The value there, on the record's thread.
+    QVariant value(const HRFMetaFile &file) const;
     void setValue(const QVariant &value, HRFMetaFile &file) const;
 };

@@ -6,8 +6,9 @@
 
 #include <optional>
 
-// Renders patterns for files. All of it only depends on its parameters and may be called from any
-// thread. Rendering yields nothing when a value is missing and the fallback says so.
+// Renders patterns for files. All of it only depends on its parameters, and may be called from any
+// thread with a snapshot of the values. Rendering yields nothing when a value is missing and the
+// fallback says so.
 
 /// The text of one token.
 std::optional<QString> HRFStringValueForPatternItem(const HRFRecordValues &values,

@@ -6,7 +6,8 @@
 
 #include <vector>
 
-// What the tag conversions make of a file, without changing it; from any thread.
+// What the tag conversions make of a file, without changing it; with a snapshot
+// of its values, from any thread.
 
 /// A value to be set, and where; no value takes the present one away.
 struct HRFNewValue

@@ -121,7 +121,7 @@ TEST_F(HRFMetaFilePatternsTest, ASnapshotOutlivesItsRecord)
 {
     HRFMetaFile &file = record({{"tags.title", u"Before"_s}});
     file.setFileURL(u"file:///a/b/Song.mp3"_s);
-    const HRFRecordValues values(file);
+    const HRFRecordValues values = HRFRecordValues::snapshotOf(file);
     HRFKeyPath::find(u"tags.title"_s)->setValue(u"After"_s, file);
     context.deleteObject(file);
     context.processPendingChanges();
@@ -155,27 +155,18 @@ TEST_F(HRFMetaFilePatternsTest, ConversionSourceIsPlain)
     }
 }
 
-TEST(HRFConversionContextTest, TakesTheChoicesFromTheSettings)
+TEST(HRFConversionContextTest, EachSettingIsAChoice)
 {
     HRFUserDefaults &defaults = HRFUserDefaults::standard();
-    const std::pair<QString, bool HRFConversionContext::*> rows[] = {
-        {u"padTrackAndDiscNum"_s, &HRFConversionContext::usesNumericPadding},
-        {u"trimsNTFSIllegalChars"_s, &HRFConversionContext::isNTFSFriendly},
-        {u"trimsSMBIllegalChars"_s, &HRFConversionContext::isSMBFriendly},
-        {u"path.moveAllFiles"_s, &HRFConversionContext::moveNonAudioFiles},
-        {u"path.removeEmptyDirectories"_s, &HRFConversionContext::removeEmptyDirectories},
-        {u"path.revealOnSuccess"_s, &HRFConversionContext::revealOnSuccess},
-    };
-    for (const auto &[name, field] : rows)
-        for (const bool value : {false, true}) {
-            defaults.setOverride(value, u"lirra.formatter."_s + name);
-            EXPECT_EQ(HRFConversionContext().*field, value) << name.toStdString();
-            defaults.setOverride({}, u"lirra.formatter."_s + name);
-            EXPECT_TRUE(defaults.hasDefaultForKey(u"lirra.formatter."_s + name));
-        }
-    defaults.setOverride(2, u"lirra.formatter.noMatchFallbackAction"_s);
-    EXPECT_EQ(HRFConversionContext().fallbackAction, 2);
-    defaults.setOverride({}, u"lirra.formatter.noMatchFallbackAction"_s);
+    HRFConversionContext before;
+    for (const QString &key : defaults.defaultKeys().filter(u"lirra.formatter."_s)) {
+        const qlonglong other = defaults.integerForKey(key) == 0 ? 1 : 0;
+        defaults.setOverride(other, key);
+        const bool isForTheMoveView = key.endsWith(u"copyFiles"_s);
+        EXPECT_EQ(HRFConversionContext() == before, isForTheMoveView) << key.toStdString();
+        defaults.setOverride({}, key);
+    }
+    EXPECT_EQ(HRFConversionContext(), before);
 }
 
 TEST(HRFDotPrefixCheckTest, TheAnswerDecidesAndIsRemembered)

@@ -62,6 +62,8 @@ TEST(HRFPatternMatcherTest, ReadsValues)
         {u"x(?:%year%)?"_s, u"x"_s, on, u""_s}, // a group that took no part
         // A group that spans elements is none of either: the items move up.
         {u"(%title%-%artist%)"_s, u"T-A"_s, on, u"title=T-A, artist=T"_s},
+        // So a numeric item can get a text without digits.
+        {u"(x %year%)%year%"_s, u"x 1 2"_s, on, u"year=0, year=1"_s},
         {u"[%title%"_s, u"x"_s, on, invalid},
         {u"(%title%"_s, u"x"_s, on, invalid},
         {u"(%title%"_s, u"(x"_s, off, u"title=x"_s},
@@ -69,26 +71,6 @@ TEST(HRFPatternMatcherTest, ReadsValues)
     for (const auto &row : rows)
         EXPECT_EQ(matched(row.pattern, row.source, row.mode), row.matched)
             << row.pattern.toStdString();
-}
-
-TEST(HRFPatternMatcherTest, KnowsWhoseItsGroupsAre)
-{
-    const auto matcher = HRFPatternMatcher::matcherForPatternItems(
-        HRFTestElements(u"(\\d)/%title%(x)%(.)%"_s), HRFRegexMode::On);
-    ASSERT_TRUE(matcher);
-    EXPECT_EQ(matcher->pattern(), u"(\\d)/(.+)(x)(.)"_s);
-    std::vector<int> ordinals;
-    for (const auto &group : matcher->metaCaptureGroups())
-        ordinals.push_back(group ? int(group->index) : -1);
-    EXPECT_EQ(ordinals, (std::vector{-1, 0, -1, 1}));
-}
-
-TEST(HRFPatternMatcherTest, ItemsWithoutDigitsAreZero)
-{
-    const HRFPatternItem year = HRFPatternItem::itemWithAttribute(HRFTestAttribute(u"tags.year"_s));
-    // Numeric items capture digits, unless the literal text turns their groups around.
-    EXPECT_EQ(matched(u"(%year%-%year%)"_s, u"1-2"_s, HRFRegexMode::On), u"year=1, year=1"_s);
-    EXPECT_EQ(matched(u"(x %year%)%year%"_s, u"x 1 2"_s, HRFRegexMode::On), u"year=0, year=1"_s);
 }
 
 TEST(HRFPatternMatcherTest, RefusesToMatchForEver)

@@ -18,13 +18,6 @@ protected:
         HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
     }
     ~HRFRememberedPatternsTest() override { HRFUserDefaults::standard().setFilePath({}); }
-
-    /// The settings as the next start of the program reads them.
-    void readSettingsAnew()
-    {
-        HRFUserDefaults::standard().setFilePath({});
-        HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
-    }
 };
 
 TEST_F(HRFRememberedPatternsTest, PatternsOutliveTheProgram)
@@ -38,7 +31,8 @@ TEST_F(HRFRememberedPatternsTest, PatternsOutliveTheProgram)
             patterns.addRecentPattern(HRFTestElements(recents[i - 1]));
         patterns.setPatternString(u"%artist%/%album%"_s);
         patterns.save();
-        readSettingsAnew();
+        HRFUserDefaults::standard().setFilePath({}); // the next start of the program
+        HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
         EXPECT_EQ(HRFRememberedPatterns(name).recentPatterns(), recents);
         EXPECT_EQ(HRFRememberedPatterns(name).patternString(), u"%artist%/%album%"_s);
         EXPECT_EQ(HRFRememberedPatterns(name).canClearRecents(), !recents.empty());
@@ -66,9 +60,8 @@ TEST_F(HRFRememberedPatternsTest, RecentOnesAreFewAndDifferent)
 
 TEST_F(HRFRememberedPatternsTest, MaximumIsHeldInBounds)
 {
-    const std::pair<int, int> rows[] = {{1000, 254}, {254, 254}, {0, 0}, {-1, 10}, {-5, 10}};
-    for (const auto &[set, kept] : rows) {
-        HRFRememberedPatterns patterns;
+    HRFRememberedPatterns patterns;
+    for (const auto &[set, kept] : {std::pair(1000, 254), {254, 254}, {0, 0}, {-1, 10}, {-5, 10}}) {
         patterns.setMaximumRecents(set);
         EXPECT_EQ(patterns.maximumRecents(), kept);
     }

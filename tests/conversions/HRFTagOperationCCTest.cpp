@@ -169,14 +169,11 @@ TEST_F(HRFTagOperationCCTest, ComposingIsOneUndoActionAndCanBeCancelled)
 TEST(HRFNumberParserTest, ReadsNumbersOfTheLanguage)
 {
     const HRFNumberParser german(QLocale(u"de_DE"_s));
-    const HRFNumberParser english(QLocale(u"en_US"_s));
     EXPECT_EQ(german.numberFromString(u"1,5"_s), 1.5);
-    EXPECT_EQ(english.numberFromString(u"1.5"_s), 1.5);
-    EXPECT_EQ(english.numberFromString(u"-3"_s), -3);
-    EXPECT_EQ(english.numberFromString(u"9223372036854775807"_s), 9223372036854775807LL);
-    EXPECT_EQ(english.numberFromString(u"٣٤"_s), 34);
-    for (const QString &text : {u""_s, u"1,5"_s, u"∞"_s, u"NaN"_s, u"1 "_s})
-        EXPECT_FALSE(english.numberFromString(text).isValid()) << text.toStdString();
+    EXPECT_EQ(german.numberFromString(u"9223372036854775807"_s), 9223372036854775807LL);
+    EXPECT_EQ(german.numberFromString(u"٣٤"_s), 34);
+    for (const QString &text : {u""_s, u"1.5"_s, u"∞"_s, u"NaN"_s, u"1 "_s})
+        EXPECT_FALSE(german.numberFromString(text).isValid()) << text.toStdString();
 }
 
 } // namespace
