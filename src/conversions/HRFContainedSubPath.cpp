@@ -21,13 +21,14 @@ std::unexpected<HRFError> refusal(int code, const char *text, const QString &nam
 
 HRFResult<void> HRFCheckFileName(const QString &name)
 {
-    if (name.toUtf8().size() > greatestNameSize)
-        return refusal(ENAMETOOLONG,
-                       QT_TRANSLATE_NOOP("HRFContainedSubPath", "The name “%1” is too long."),
-                       name);
-    if (name.contains(u'\0') || name.contains(u'/'))
-        return refusal(
-            EINVAL, QT_TRANSLATE_NOOP("HRFContainedSubPath", "“%1” is no name for a file."), name);
+    if (name.toUtf8().size() > greatestNameSize) {
+        const char *text = QT_TRANSLATE_NOOP("HRFContainedSubPath", "The name “%1” is too long.");
+        return refusal(ENAMETOOLONG, text, name);
+    }
+    if (name.contains(u'\0') || name.contains(u'/')) {
+        const char *text = QT_TRANSLATE_NOOP("HRFContainedSubPath", "“%1” is no name for a file.");
+        return refusal(EINVAL, text, name);
+    }
     return {};
 }
 

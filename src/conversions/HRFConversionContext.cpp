@@ -8,7 +8,7 @@ namespace {
 
 struct SwitchRow
 {
-    bool HRFConversionContext::*field;
+    bool HRFConversionContext::*field = nullptr;
     QLatin1StringView key;
 };
 

@@ -16,8 +16,7 @@ QHash<QString, HRFKeyPath> allPaths()
     HRFRequire(file.relationships.size() == HRFKeyPath::partCount, "relationships.size");
     QHash<QString, HRFKeyPath> paths;
     for (std::size_t part = 0; part < HRFKeyPath::partCount; ++part)
-        for (const HRFAttributeDescription &attribute :
-             file.relationships[part].destination->attributes)
+        for (const auto &attribute : file.relationships[part].destination->attributes)
             paths.insert(attribute.path(), {part, &attribute});
     return paths;
 }

@@ -9,5 +9,5 @@ struct HRFMetaCaptureGroup
 {
     HRFPatternItem patternItem;
     /// The place of the item among the pattern's items, from 0.
-    std::size_t index;
+    std::size_t index = 0;
 };

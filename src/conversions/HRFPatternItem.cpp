@@ -64,8 +64,7 @@ std::vector<HRFPatternItem> HRFPatternItem::attributeItems()
     const HRFAttributeManager &catalogue = HRFAttributeManager::sharedManager();
     std::vector<HRFPatternItem> items;
     for (const QString &entity : catalogue.orderedEntityNames())
-        for (const HRFAttributeDescription *attribute :
-             catalogue.attributesByEntityName().value(entity))
+        for (const auto *attribute : catalogue.attributesByEntityName().value(entity))
             items.push_back(itemWithAttribute(*attribute));
     return items;
 }

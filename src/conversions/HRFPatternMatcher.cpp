@@ -70,11 +70,11 @@ QString expressionForLiteral(const QString &literal, HRFRegexMode mode)
 {
     QString expression;
     for (const QChar character : literal) {
-        if (mode == HRFRegexMode::Off && u"*?+[](){}^$|\\./"_s.contains(character))
+        if (mode == HRFRegexMode::Off && uR"(*?+[](){}^$|\./)"_s.contains(character))
             expression += u'\\';
         expression += character;
     }
-    return expression.replace("\\/"_L1, "[\\/:]"_L1);
+    return expression.replace(R"(\/)"_L1, R"([\/:])"_L1);
 }
 
 /// How many capturing groups an expression has by itself; 0 when it is none.
@@ -121,7 +121,7 @@ HRFPatternMatcher::matcherForPatternItems(const HRFPatternElements &items, HRFRe
                 matcher.m_groups.resize(matcher.m_groups.size() + groupCount(piece));
         } else {
             const auto &item = std::get<HRFPatternItem>(element);
-            matcher.m_groups.push_back(HRFMetaCaptureGroup{item, ordinal++});
+            matcher.m_groups.emplace_back(HRFMetaCaptureGroup{item, ordinal++});
             expression += item.regexString();
         }
     }
@@ -160,9 +160,10 @@ void HRFPatternMatcher::addMatch(const icu::RegexMatcher &match,
         UErrorCode status = U_ZERO_ERROR;
         const int32_t number = int32_t(i) + 1;
         const bool isCaptured = match.start(number, status) >= 0 && U_SUCCESS(status);
-        if (!isCaptured || !m_groups[i] || m_groups[i]->patternItem.isDummy())
+        const std::optional<HRFMetaCaptureGroup> &group = m_groups[i];
+        if (!isCaptured || !group || group->patternItem.isDummy())
             continue;
-        const HRFPatternItem &item = m_groups[i]->patternItem;
+        const HRFPatternItem &item = group->patternItem;
         const QString text = textOf(match.group(number, status)).trimmed();
         found.push_back(
             {item, item.representsNumericValue() ? QVariant(leadingInteger(text)) : text});

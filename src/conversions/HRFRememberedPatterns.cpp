@@ -20,8 +20,8 @@ QString recentsKey(const QString &autosaveName)
 
 } // namespace
 
-HRFRememberedPatterns::HRFRememberedPatterns(const QString &autosaveName)
-    : m_autosaveName(autosaveName), m_maximumRecents(usualNumber)
+HRFRememberedPatterns::HRFRememberedPatterns(QString autosaveName)
+    : m_autosaveName(std::move(autosaveName)), m_maximumRecents(usualNumber)
 {
     if (m_autosaveName.isEmpty())
         return;

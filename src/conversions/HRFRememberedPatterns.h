@@ -10,7 +10,7 @@ class HRFRememberedPatterns
 {
 public:
     /// Loads what is remembered under the name; an empty name remembers for as long as this lives.
-    explicit HRFRememberedPatterns(const QString &autosaveName = {});
+    explicit HRFRememberedPatterns(QString autosaveName = {});
 
     /// The last used pattern in its stored form; empty at first.
     const QString &patternString() const { return m_patternString; }

@@ -158,7 +158,7 @@ TEST_F(HRFMetaFilePatternsTest, ConversionSourceIsPlain)
 TEST(HRFConversionContextTest, EachSettingIsAChoice)
 {
     HRFUserDefaults &defaults = HRFUserDefaults::standard();
-    HRFConversionContext before;
+    const HRFConversionContext before;
     for (const QString &key : defaults.defaultKeys().filter(u"lirra.formatter."_s)) {
         const qlonglong other = defaults.integerForKey(key) == 0 ? 1 : 0;
         defaults.setOverride(other, key);

@@ -90,7 +90,8 @@ TEST(HRFPatternMatcherTest, MayBeSharedByThreads)
         HRFTestElements(u"%trackNumber% - %title%"_s), HRFRegexMode::Off);
     ASSERT_TRUE(matcher);
     std::vector<std::jthread> threads;
-    for (int i = 0; i < 4; ++i)
+    threads.reserve(4);
+    for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&matcher, i] {
             for (int round = 0; round < 200; ++round) {
                 const auto matches = matcher->matchesInString(u"%1 - x"_s.arg(i));
@@ -98,6 +99,7 @@ TEST(HRFPatternMatcherTest, MayBeSharedByThreads)
                 EXPECT_EQ(matches->front().value, i);
             }
         });
+    }
 }
 
 } // namespace

@@ -11,11 +11,12 @@ namespace {
 QString outline(const HRFPatternElements &elements)
 {
     QStringList parts;
-    for (const HRFPatternElement &element : elements)
+    for (const HRFPatternElement &element : elements) {
         if (const auto *literal = std::get_if<QString>(&element))
             parts.append(*literal);
         else
             parts.append(u'<' + std::get<HRFPatternItem>(element).editingString() + u'>');
+    }
     return parts.join(u'|');
 }
 

@@ -4,7 +4,6 @@
 #include "kit/HRFUserDefaults.h"
 
 using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -17,7 +16,11 @@ protected:
     {
         HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
     }
-    ~HRFRememberedPatternsTest() override { HRFUserDefaults::standard().setFilePath({}); }
+    void TearDown() override
+    {
+        HRFUserDefaults::standard().setFilePath({});
+        HRFApplicationTest::TearDown();
+    }
 };
 
 TEST_F(HRFRememberedPatternsTest, PatternsOutliveTheProgram)
