@@ -2,7 +2,6 @@
 
 #include "document/HRFPlaylist.h"
 #include "kit/HRFAssert.h"
-#include "kit/HRFMainThread.h"
 #include "operations/HRFProgressWindowController.h"
 #include "operations/HRFTagWriteOperation.h"
 #include "store/HRFDataFolder.h"

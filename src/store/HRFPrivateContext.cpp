@@ -71,17 +71,14 @@ HRFPrivateContext::~HRFPrivateContext() = default;
 
 void HRFPrivateContext::performBlock(std::function<void()> block)
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_queue.push_back(std::move(block));
-        if (m_queue.size() > 1)
-            return; // the one who runs the first goes on with this
-    }
+    const std::lock_guard lock(m_mutex);
+    m_queue.push_back(std::move(block));
+    if (m_queue.size() > 1)
+        return; // the one who runs the first goes on with this
     try {
         HRFBackground::run([self = shared_from_this()] { self->runQueuedBlocks(); });
     } catch (...) {
-        const std::lock_guard lock(m_mutex);
-        m_queue.clear();
+        m_queue.pop_back(); // the caller is told; nobody else has relied on the runner
         throw;
     }
 }
