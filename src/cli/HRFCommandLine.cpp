@@ -1,5 +1,7 @@
 #include "cli/HRFCommandLine.h"
 
+#include "cli/HRFAnswerOption.h"
+#include "cli/HRFCommandOptions.h"
 #include "cli/HRFConsole.h"
 #include "cli/HRFFileCommands.h"
 #include "cli/HRFInterruption.h"
@@ -12,7 +14,6 @@
 #include <QFile>
 
 #include <algorithm>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -36,12 +37,10 @@ std::string tagList()
     return list;
 }
 
-const std::map<std::string, HRFErrorAnswer> errorAnswers = {
-    {"ask", HRFErrorAnswer::Ask},
-    {"fix", HRFErrorAnswer::Fix},
-    {"continue", HRFErrorAnswer::Continue},
-    {"cancel", HRFErrorAnswer::Cancel},
-};
+const HRFAnswers<HRFErrorAnswer> errorAnswers = {{"ask", HRFErrorAnswer::Ask},
+                                                 {"fix", HRFErrorAnswer::Fix},
+                                                 {"continue", HRFErrorAnswer::Continue},
+                                                 {"cancel", HRFErrorAnswer::Cancel}};
 
 void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
 {
@@ -54,12 +53,11 @@ void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
         ->type_name("DIR");
     app.add_flag("--dry-run", options.isDryRun, "Print what would change, change nothing");
     app.add_flag("--quiet", options.isQuiet, "Show no progress");
-    app.add_option_function<std::string>(
-           "--on-error",
-           [&options](const std::string &answer) { options.onError = errorAnswers.at(answer); },
-           "What to do when a file cannot be written")
-        ->type_name("ask|fix|continue|cancel")
-        ->check(CLI::IsMember(errorAnswers).description(""));
+    HRFAddAnswerOption(
+        app, "--on-error", errorAnswers,
+        [&options](HRFErrorAnswer answer) { options.onError = answer; },
+        "What to do when a file cannot be written");
+    HRFAddNameAnswers(app, options);
     app.set_version_flag("--version", "lirra-cli " LIRRA_VERSION);
 }
 
@@ -144,6 +142,8 @@ QString applySettings(const HRFCommandOptions &options)
             return u"-D %1: %2"_s.arg(text, problem);
         defaults.setOverride(value, key);
     }
+    for (const auto &[key, value] : options.settings)
+        defaults.setOverride(value, key);
     return {};
 }
 

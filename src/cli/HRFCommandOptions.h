@@ -1,9 +1,12 @@
 #pragma once
 
+#include "cli/HRFConversionOptions.h"
 #include "tags/HRFTagKey.h"
 
+#include <QString>
 #include <QVariant>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -19,6 +22,8 @@ struct HRFCommandOptions
     bool isDryRun = false;
     bool isQuiet = false;
     HRFErrorAnswer onError = HRFErrorAnswer::Ask;
+    std::map<QString, QVariant> settings; ///< what other options say of them for this run
+    HRFConversionOptions conversion;
 
     bool printsJSON = false;
     bool printsFrames = false;

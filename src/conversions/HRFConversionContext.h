@@ -5,10 +5,11 @@
 /// The user's choices for one conversion.
 struct HRFConversionContext
 {
-    /// What stands in for a missing value, as the setting says it; any other number makes the whole
-    /// pattern yield nothing.
+    /// What stands in for a missing value, as the setting says it.
     static constexpr qlonglong fallbackUnknown = 0; ///< "Unknown Album"
     static constexpr qlonglong fallbackEmpty = 1;
+    /// As any further number: the whole pattern yields nothing.
+    static constexpr qlonglong fallbackNothing = 2;
 
     /// Takes the choices from the user's settings.
     HRFConversionContext();

@@ -1,0 +1,81 @@
+#include "cli/HRFConversionOptions.h"
+
+#include "cli/HRFAnswerOption.h"
+#include "cli/HRFCommandOptions.h"
+#include "conversions/HRFConversionContext.h"
+
+#include <cstdint>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SwitchRow
+{
+    const char *names;
+    QLatin1StringView setting;
+    const char *help;
+};
+
+constexpr SwitchRow switchRows[] = {
+    {"--padding,!--no-padding", "lirra.formatter.padTrackAndDiscNum"_L1,
+     "Track and disc numbers with leading zeros"},
+    {"--ntfs,!--no-ntfs", "lirra.formatter.trimsNTFSIllegalChars"_L1,
+     "Without the characters that NTFS forbids"},
+    {"--smb,!--no-smb", "lirra.formatter.trimsSMBIllegalChars"_L1,
+     "Without the characters that SMB shares forbid"},
+};
+
+const HRFAnswers<int> dotAnswers = {{"ask", HRFDotPrefixCheck::noAnswer},
+                                    {"remove", HRFDotPrefixCheck::removeDot},
+                                    {"cancel", HRFDotPrefixCheck::cancel},
+                                    {"continue", HRFDotPrefixCheck::proceed}};
+
+const HRFAnswers<HRFConflictAnswer> conflictAnswers = {{"ask", HRFConflictAnswer::Ask},
+                                                       {"stop", HRFConflictAnswer::Stop},
+                                                       {"skip", HRFConflictAnswer::Skip},
+                                                       {"keep-both", HRFConflictAnswer::KeepBoth},
+                                                       {"replace", HRFConflictAnswer::Replace}};
+
+const HRFAnswers<qlonglong> fallbacks = {{"unknown", HRFConversionContext::fallbackUnknown},
+                                         {"empty", HRFConversionContext::fallbackEmpty},
+                                         {"skip", HRFConversionContext::fallbackNothing}};
+
+} // namespace
+
+void HRFAddNameAnswers(CLI::App &app, HRFCommandOptions &options)
+{
+    HRFConversionOptions &conversion = options.conversion;
+    HRFAddAnswerOption(
+        app, "--dot-names", dotAnswers, [&](int answer) { conversion.dotNames = answer; },
+        "What to do about new names that begin with a dot");
+    HRFAddAnswerOption(
+        app, "--on-conflict", conflictAnswers,
+        [&](HRFConflictAnswer answer) { conversion.onConflict = answer; },
+        "What to do when a file with the new name exists");
+}
+
+void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options)
+{
+    command
+        .add_option("--pattern", options.conversion.pattern,
+                    "Text with tokens such as %title%; %% is a percent sign")
+        ->required();
+}
+
+void HRFAddRenderingOptions(CLI::App &command, HRFCommandOptions &options)
+{
+    for (const SwitchRow &row : switchRows)
+        command.add_flag_function(
+            row.names,
+            [&options, &row](std::int64_t count) {
+                options.settings.insert_or_assign(row.setting, count > 0);
+            },
+            row.help);
+    HRFAddAnswerOption(
+        command, "--fallback", fallbacks,
+        [&options](qlonglong action) {
+            options.settings.insert_or_assign(u"lirra.formatter.noMatchFallbackAction"_s, action);
+        },
+        "What a token without a value becomes");
+}

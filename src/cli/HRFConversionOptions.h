@@ -1,0 +1,31 @@
+#pragma once
+
+#include "conversions/HRFDotPrefixCheck.h"
+
+#include <string>
+
+namespace CLI {
+class App;
+}
+struct HRFCommandOptions;
+
+/// What to do when a file is to become one that exists.
+enum class HRFConflictAnswer { Ask, Stop, Skip, KeepBoth, Replace };
+
+/// What conversions are told on the command line, besides what stands for settings.
+struct HRFConversionOptions
+{
+    std::string pattern;
+    std::string sourceAttribute = "fileName"; ///< --from
+    std::string targetAttribute; ///< --to
+    bool usesRegularExpressions = false;
+    int dotNames = HRFDotPrefixCheck::noAnswer; ///< an answer of HRFDotPrefixCheck
+    HRFConflictAnswer onConflict = HRFConflictAnswer::Ask;
+};
+
+/// Adds the answers to questions about names, for all commands.
+void HRFAddNameAnswers(CLI::App &app, HRFCommandOptions &options);
+/// Adds the pattern.
+void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options);
+/// Adds what a pattern renders to beside its tokens: options that stand for settings.
+void HRFAddRenderingOptions(CLI::App &command, HRFCommandOptions &options);
