@@ -3,6 +3,7 @@
 #include "cli/HRFAnswerOption.h"
 #include "cli/HRFCommandOptions.h"
 #include "cli/HRFConsole.h"
+#include "cli/HRFConversionCommands.h"
 #include "cli/HRFFileCommands.h"
 #include "cli/HRFInterruption.h"
 #include "kit/HRFUserDefaults.h"
@@ -61,24 +62,31 @@ void addGlobalOptions(CLI::App &app, HRFCommandOptions &options)
     app.set_version_flag("--version", "lirra-cli " LIRRA_VERSION);
 }
 
-CLI::App *addCommand(CLI::App &app, HRFCommandOptions &options, Command &chosen, Command command,
-                     const std::string &name, const std::string &help)
+CLI::App *addCommand(CLI::App &app, Command &chosen, Command command, const std::string &name,
+                     const std::string &help)
 {
     CLI::App *subcommand = app.add_subcommand(name, help);
     subcommand->fallthrough();
-    subcommand->add_option("PATH", options.paths, "Audio files, and folders to walk")->required();
     subcommand->callback([&chosen, command] { chosen = command; });
+    return subcommand;
+}
+
+CLI::App *addFileCommand(CLI::App &app, HRFCommandOptions &options, Command &chosen,
+                         Command command, const std::string &name, const std::string &help)
+{
+    CLI::App *subcommand = addCommand(app, chosen, command, name, help);
+    subcommand->add_option("PATH", options.paths, "Audio files, and folders to walk")->required();
     return subcommand;
 }
 
 void addCommands(CLI::App &app, HRFCommandOptions &options, Command &chosen)
 {
-    CLI::App *show = addCommand(app, options, chosen, &HRFShowFiles, "show",
-                                "Print the tags and audio properties of files");
+    CLI::App *show = addFileCommand(app, options, chosen, &HRFShowFiles, "show",
+                                    "Print the tags and audio properties of files");
     show->add_flag("--json", options.printsJSON, "One JSON object per line");
     show->add_flag("--frames", options.printsFrames, "The native fields too");
 
-    CLI::App *set = addCommand(app, options, chosen, &HRFSetTags, "set", "Set tags of files");
+    CLI::App *set = addFileCommand(app, options, chosen, &HRFSetTags, "set", "Set tags of files");
     set->add_option("-t", options.assignments, "Set a tag; an empty value removes it")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
@@ -87,17 +95,48 @@ void addCommands(CLI::App &app, HRFCommandOptions &options, Command &chosen)
     set->add_flag("--no-artwork", options.removesArtwork, "Remove the pictures")->excludes(artwork);
     set->footer([] { return tagList(); });
 
-    addCommand(app, options, chosen, &HRFStripTags, "strip", "Remove every tag of files");
+    addFileCommand(app, options, chosen, &HRFStripTags, "strip", "Remove every tag of files");
+}
+
+void addConversions(CLI::App &app, HRFCommandOptions &options, Command &chosen)
+{
+    HRFConversionOptions &conversion = options.conversion;
+    CLI::App *tags = addFileCommand(app, options, chosen, &HRFConvertToTags, "tags",
+                                    "Fill tags from the names of files");
+    HRFAddPatternOption(*tags, options);
+    tags->add_option("--from", conversion.sourceAttribute,
+                     "Match the pattern against this attribute instead of the name")
+        ->type_name("ATTRIBUTE");
+    tags->add_flag("--regex", conversion.usesRegularExpressions,
+                   "The text between the tokens is a regular expression");
+
+    CLI::App *compose =
+        addFileCommand(app, options, chosen, &HRFComposeTag, "compose", "Make one tag of others");
+    HRFAddPatternOption(*compose, options);
+    compose->add_option("--to", conversion.targetAttribute, "The tag to set")
+        ->type_name("TAG")
+        ->required();
+    HRFAddRenderingOptions(*compose, options);
+    for (CLI::App *command : {tags, compose})
+        command->add_flag("--json", options.printsJSON,
+                          "In a dry run, one JSON object per line for each file that changes");
+
+    addCommand(app, chosen, &HRFListTokens, "tokens", "List the tokens of patterns");
 }
 
 /// The arguments, the last one first, as CLI11 takes them. It would take "[2004]", which may well
-/// be a folder, for a list; "./[2004]" is the same folder.
+/// be a folder, for a list; "./[2004]" is the same folder. A pattern is no path, and no list
+/// either.
 std::vector<std::string> reversedArguments(int argc, char **argv)
 {
     std::vector<std::string> arguments(argv + 1, argv + argc);
-    for (std::string &argument : arguments)
-        if (argument.starts_with('[') && argument.ends_with(']'))
+    std::string previous;
+    for (std::string &argument : arguments) {
+        const bool looksLikeList = argument.starts_with('[') && argument.ends_with(']');
+        if (looksLikeList && previous != HRFPatternOptionName)
             argument.insert(0, "./");
+        previous = argument;
+    }
     std::ranges::reverse(arguments);
     return arguments;
 }
@@ -164,6 +203,7 @@ int HRFRunCommandLine(int argc, char **argv)
     app.require_subcommand(1);
     addGlobalOptions(app, options);
     addCommands(app, options, chosen);
+    addConversions(app, options, chosen);
     try {
         app.parse(reversedArguments(argc, argv));
     } catch (const CLI::ParseError &error) {

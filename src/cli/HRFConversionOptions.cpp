@@ -2,7 +2,8 @@
 
 #include "cli/HRFAnswerOption.h"
 #include "cli/HRFCommandOptions.h"
-#include "conversions/HRFConversionContext.h"
+#include "cli/HRFNearestName.h"
+#include "conversions/HRFPatternString.h"
 
 #include <cstdint>
 
@@ -58,7 +59,7 @@ void HRFAddNameAnswers(CLI::App &app, HRFCommandOptions &options)
 void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options)
 {
     command
-        .add_option("--pattern", options.conversion.pattern,
+        .add_option(HRFPatternOptionName, options.conversion.pattern,
                     "Text with tokens such as %title%; %% is a percent sign")
         ->required();
 }
@@ -78,4 +79,22 @@ void HRFAddRenderingOptions(CLI::App &command, HRFCommandOptions &options)
             options.settings.insert_or_assign(u"lirra.formatter.noMatchFallbackAction"_s, action);
         },
         "What a token without a value becomes");
+}
+
+std::expected<HRFPatternElements, QString>
+HRFElementsFromOptions(const HRFConversionOptions &options,
+                       const std::vector<HRFPatternItem> &offeredItems)
+{
+    const QString text = QString::fromStdString(options.pattern);
+    if (text.toStdString() != options.pattern)
+        return std::unexpected(u"--pattern %1: The text is not valid UTF-8"_s.arg(text));
+    const QStringList unknown = HRFUnknownTokens(text, offeredItems);
+    if (unknown.isEmpty())
+        return HRFItemsForPatternString(text, offeredItems);
+    QStringList names;
+    for (const HRFPatternItem &item : offeredItems)
+        names.append(item.editingString());
+    return std::unexpected(
+        u"--pattern %1: there is no token “%2” for this; did you mean “%3”?"_s.arg(
+            text, unknown.front(), HRFNearestName(unknown.front(), names)));
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "conversions/HRFDotPrefixCheck.h"
+#include "conversions/HRFPattern.h"
 
+#include <expected>
 #include <string>
 
 namespace CLI {
@@ -26,6 +28,13 @@ struct HRFConversionOptions
 /// Adds the answers to questions about names, for all commands.
 void HRFAddNameAnswers(CLI::App &app, HRFCommandOptions &options);
 /// Adds the pattern.
+inline constexpr const char *HRFPatternOptionName = "--pattern";
 void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options);
 /// Adds what a pattern renders to beside its tokens: options that stand for settings.
 void HRFAddRenderingOptions(CLI::App &command, HRFCommandOptions &options);
+
+/// The pattern's literal text and tokens, or one sentence that names a token that is none of the
+/// offered ones.
+std::expected<HRFPatternElements, QString>
+HRFElementsFromOptions(const HRFConversionOptions &options,
+                       const std::vector<HRFPatternItem> &offeredItems);

@@ -5,14 +5,14 @@
 #include "cli/HRFFileReport.h"
 #include "cli/HRFListRun.h"
 #include "cli/HRFTagAssignment.h"
-#include "cli/HRFValueText.h"
+#include "cli/HRFTagPreview.h"
 #include "operations/HRFTagWriteOperation.h"
 #include "store/HRFMetaFile.h"
 #include "store/HRFMetaTags.h"
 #include "tags/HRFTagEngine.h"
 
 #include <functional>
-#include <map>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -21,23 +21,6 @@ namespace {
 QString nameOf(HRFTagKey key)
 {
     return HRFTagProperties::propertyNames().at(qsizetype(key));
-}
-
-QString shownValue(const QVariant &value)
-{
-    if (HRFTagValue::isNothing(value))
-        return u"nothing"_s;
-    if (value.typeId() == QMetaType::QByteArray)
-        return u"%1 bytes"_s.arg(value.toByteArray().size());
-    return u"“%1”"_s.arg(HRFConsole::printable(HRFValueText(value)));
-}
-
-/// What the engine holds now and then, which need not be what is set: ratings have a largest value.
-QString describeChange(HRFTagKey key, const QVariant &before, const QVariant &after)
-{
-    if (before == after || (HRFTagValue::isNothing(before) && HRFTagValue::isNothing(after)))
-        return {};
-    return u"  %1: %2 -> %3\n"_s.arg(nameOf(key), shownValue(before), shownValue(after));
 }
 
 /// What a dry run says about a file, and why the file could not be saved.
@@ -65,15 +48,8 @@ void previewFiles(HRFListRun &run, const std::function<Preview(HRFTagEngine &)> 
 
 Preview previewChanges(HRFTagEngine &engine, const std::vector<HRFTagChange> &changes)
 {
-    std::map<HRFTagKey, QVariant> before;
-    for (const HRFTagChange &change : changes) {
-        before.try_emplace(change.key, engine.valueForKey(change.key));
-        engine.setValueForKey(change.value, change.key);
-    }
-    QString described;
-    for (const auto &[key, value] : before)
-        described += describeChange(key, value, engine.valueForKey(key));
-    return {described.toUtf8(), engine.checkChanges()};
+    HRFTagPreview preview = HRFTagPreview::of(engine, changes);
+    return {preview.text(), std::move(preview.outcome)};
 }
 
 Preview previewStripping(const HRFTagEngine &engine)
@@ -82,15 +58,12 @@ Preview previewStripping(const HRFTagEngine &engine)
     return {tags.isEmpty() ? QByteArray() : u"  removes %1\n"_s.arg(tags).toUtf8(), {}};
 }
 
-/// An edit of the records; the list writes what it changes. Answers whether it changes anything.
-bool editRecords(HRFPlaylist &list, const std::vector<HRFMetaFile *> &records,
+void editRecords(const std::vector<HRFMetaFile *> &records,
                  const std::vector<HRFTagChange> &changes)
 {
     for (const HRFMetaFile *record : records)
         for (const HRFTagChange &change : changes)
             record->tags().setValueForKey(change.value, nameOf(change.key));
-    list.managedObjectContext().processPendingChanges();
-    return list.fileManager().writeProgress() != nullptr;
 }
 
 /// Pictures are not in the records. The tags go with them, so that each file is written once.
@@ -152,9 +125,12 @@ int HRFSetTags(const HRFCommandOptions &options)
         if (options.isDryRun)
             return previewFiles(
                 run, [&](HRFTagEngine &engine) { return previewChanges(engine, *changes); });
-        run.changeFiles([&](HRFPlaylist &list, const std::vector<HRFMetaFile *> &records) {
-            return hasArtwork ? writeWithArtwork(list, records, *changes)
-                              : editRecords(list, records, *changes);
+        if (hasArtwork)
+            return run.changeFiles([&](HRFPlaylist &list, const HRFListRun::Records &records) {
+                return writeWithArtwork(list, records, *changes);
+            });
+        run.editFiles([&](HRFPlaylist &, const HRFListRun::Records &records) {
+            editRecords(records, *changes);
         });
     });
 }

@@ -32,16 +32,10 @@ QString nameOf(K key)
     return HRFTagProperties::propertyNames().at(qsizetype(key));
 }
 
-QJsonValue jsonValue(const QVariant &value)
-{
-    return value.typeId() == QMetaType::QDateTime ? QJsonValue(HRFValueText(value))
-                                                  : QJsonValue::fromVariant(value);
-}
-
 void insertValue(QJsonObject &object, const QString &name, const QVariant &value)
 {
     if (!HRFTagValue::isNothing(value))
-        object.insert(name, jsonValue(value));
+        object.insert(name, HRFJSONValue(value));
 }
 
 template <class Visit> void forEachTextualTag(const HRFMetaFile &record, Visit visit)
@@ -127,9 +121,7 @@ HRFFileReport::HRFFileReport(const HRFMetaFile &record, const HRFFileReference &
 
 QByteArray HRFFileReport::json() const
 {
-    QJsonObject object{{u"path"_s, m_path.displayPath()}};
-    if (!m_path.isValidUtf8())
-        object.insert(u"pathBytes"_s, QString::fromLatin1(m_path.nativePath().toHex()));
+    QJsonObject object = HRFJSONOfPath(m_path);
     const auto insertInto = [](QJsonObject &part) {
         return [&part](K key, const QVariant &value) { insertValue(part, nameOf(key), value); };
     };

@@ -5,6 +5,7 @@
 #include "document/HRFSortDescriptor.h"
 #include "kit/HRFBackground.h"
 #include "kit/HRFUserDefaults.h"
+#include "store/HRFAttributeManager.h"
 #include "store/HRFDataFolder.h"
 #include "store/HRFMetaFile.h"
 
@@ -21,6 +22,12 @@ HRFResult<std::unique_ptr<HRFDataFolder>> takeDataFolder(const HRFCommandOptions
         return HRFDataFolder::temporary();
     return HRFDataFolder::take(QFile::decodeName(QByteArray::fromStdString(options.dataFolder)));
 }
+
+/// The catalogue keeps its store in the data folder, and has to be closed before that goes.
+struct CatalogueCloser
+{
+    ~CatalogueCloser() { HRFAttributeManager::releaseSharedManager(); }
+};
 
 /// A list that stays in the order of its files, whatever the windows are sorted by.
 HRFPlaylist &makeUnsortedList(HRFDocumentController &documents)
@@ -41,6 +48,7 @@ int HRFListRun::run(const HRFCommandOptions &options,
         console.report(u"%1: %2"_s.arg(folder.error().path, folder.error().fullText()));
         return HRFExitStatus::wrongUsage;
     }
+    const CatalogueCloser closer;
     HRFListRun run(options, console);
     command(run);
     return run.exitStatus();
@@ -126,6 +134,15 @@ void HRFListRun::changeFiles(const Change &change)
     m_loop.exec();
 }
 
+void HRFListRun::editFiles(const Edit &edit)
+{
+    changeFiles([&](HRFPlaylist &list, const Records &records) {
+        edit(list, records);
+        list.managedObjectContext().processPendingChanges();
+        return list.fileManager().writeProgress() != nullptr;
+    });
+}
+
 void HRFListRun::importFiles()
 {
     std::vector<HRFFileReference> given;
@@ -164,9 +181,23 @@ int HRFListRun::exitStatus()
             u"Interrupted: %1 of %2 files are done"_s.arg(m_finished).arg(m_paths.size()));
         return HRFExitStatus::interrupted;
     }
+    if (m_isRefused)
+        return HRFExitStatus::wrongUsage;
     const bool isIncomplete = m_finished < std::size_t(m_paths.size());
     return m_hasFailed || isIncomplete || m_console.hasOutputFailed() ? HRFExitStatus::someFailed
                                                                       : HRFExitStatus::done;
+}
+
+void HRFListRun::refuse(const QString &problem)
+{
+    m_isRefused = true;
+    m_console.report(problem);
+}
+
+void HRFListRun::fail(const HRFMetaFile &record, const HRFError &error)
+{
+    --m_finished;
+    fail(m_paths.value(record.fileURL()), error);
 }
 
 void HRFListRun::fail(const HRFFileReference &path, const HRFError &error)

@@ -40,10 +40,18 @@ public:
 
     /// Changes all records of the list, in its order, or queues work on their files; answers
     /// whether there is anything to write.
-    using Change =
-        std::function<bool(HRFPlaylist &list, const std::vector<HRFMetaFile *> &records)>;
+    using Records = std::vector<HRFMetaFile *>;
+    using Change = std::function<bool(HRFPlaylist &list, const Records &records)>;
     /// Imports the files, changes them and waits until they are written.
     void changeFiles(const Change &change);
+    /// The same by changes of the records alone: the list writes what they change.
+    using Edit = std::function<void(HRFPlaylist &list, const Records &records)>;
+    void editFiles(const Edit &edit);
+
+    /// Names a file that is not done, and why.
+    void fail(const HRFMetaFile &record, const HRFError &error);
+    /// Says what is wrong with the command line. To be called before anything else.
+    void refuse(const QString &problem);
 
 private:
     HRFListRun(const HRFCommandOptions &options, HRFConsole &console);
@@ -65,6 +73,7 @@ private:
     QHash<QString, HRFFileReference> m_paths;
     std::size_t m_finished = 0; ///< files
     bool m_hasFailed = false;
+    bool m_isRefused = false;
     QSet<QString> m_namedFiles; ///< by file key
     /// The queued operations, in their order; those before the next one can ask nothing any more.
     std::vector<std::shared_ptr<HRFOperation>> m_queued;

@@ -1,5 +1,6 @@
 #include "cli/HRFTagAssignment.h"
 
+#include "cli/HRFNearestName.h"
 #include "kit/HRFFileReference.h"
 #include "kit/HRFISO8601DateFormatter.h"
 #include "kit/HRFImageType.h"
@@ -7,12 +8,9 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <limits>
 #include <memory>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,37 +18,13 @@ namespace {
 
 using ParsedValue = std::expected<QVariant, QString>;
 
-/// How many single-character edits lead from one text to the other (Levenshtein).
-qsizetype editDistance(const QString &from, const QString &to)
+QStringList tagNames()
 {
-    std::vector<qsizetype> row;
-    for (qsizetype i = 0; i <= to.size(); ++i)
-        row.push_back(i);
-    for (qsizetype i = 1; i <= from.size(); ++i) {
-        qsizetype diagonal = std::exchange(row[0], i);
-        for (qsizetype j = 1; j <= to.size(); ++j) {
-            auto &cell = row[std::size_t(j)];
-            const qsizetype replaced = diagonal + (from[i - 1] == to[j - 1] ? 0 : 1);
-            diagonal = cell;
-            cell = std::min({replaced, cell + 1, row[std::size_t(j) - 1] + 1});
-        }
-    }
-    return row.back();
-}
-
-QString nearestKey(const QString &name)
-{
-    QString nearest;
-    qsizetype smallest = std::numeric_limits<qsizetype>::max();
-    for (const HRFPropertyRow &row : HRFPropertyRows) {
-        const QString candidate = QString::fromLatin1(row.name);
-        const qsizetype distance = editDistance(name.toLower(), candidate.toLower());
-        if (row.isTag && distance < smallest) {
-            smallest = distance;
-            nearest = candidate;
-        }
-    }
-    return nearest;
+    QStringList names;
+    for (const HRFPropertyRow &row : HRFPropertyRows)
+        if (row.isTag)
+            names.append(QString::fromLatin1(row.name));
+    return names;
 }
 
 /// Numbers are stored in 32 bits.
@@ -108,7 +82,7 @@ std::expected<HRFTagChange, QString> parseAssignment(const std::string &assignme
     const auto key = HRFTagKeyForName(name.toStdString());
     if (!key || !HRFRowForKey(*key).isTag)
         return std::unexpected(u"-t %1: there is no tag “%2”; did you mean “%3”?"_s.arg(
-            whole, name, nearestKey(name)));
+            whole, name, HRFNearestName(name, tagNames())));
     if (*key == HRFTagKey::artwork)
         return std::unexpected(u"-t %1: use --artwork FILE or --no-artwork"_s.arg(whole));
     const QString text = whole.mid(equals + 1);

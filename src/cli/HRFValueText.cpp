@@ -1,6 +1,8 @@
 #include "cli/HRFValueText.h"
 
+#include "kit/HRFFileReference.h"
 #include "kit/HRFISO8601DateFormatter.h"
+#include "tags/HRFTagValue.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,4 +33,20 @@ QString HRFShownText(const QVariant &value, HRFTagKey key)
     default:
         return HRFValueText(value);
     }
+}
+
+QJsonValue HRFJSONValue(const QVariant &value)
+{
+    if (HRFTagValue::isNothing(value))
+        return {};
+    return value.typeId() == QMetaType::QDateTime ? QJsonValue(HRFValueText(value))
+                                                  : QJsonValue::fromVariant(value);
+}
+
+QJsonObject HRFJSONOfPath(const HRFFileReference &path)
+{
+    QJsonObject object{{u"path"_s, path.displayPath()}};
+    if (!path.isValidUtf8())
+        object.insert(u"pathBytes"_s, QString::fromLatin1(path.nativePath().toHex()));
+    return object;
 }

@@ -4,20 +4,58 @@
 #include <unicode/uchar.h>
 
 #include <algorithm>
+#include <chrono>
+#include <ctime>
 #include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// In ICU's units, which are about a millisecond of backtracking each.
-constexpr int32_t timeLimit = 1000;
+constexpr std::chrono::nanoseconds timeLimit = std::chrono::seconds(1); ///< of the processor
 constexpr int32_t stackLimit = 8'000'000; ///< bytes
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("HRFPatternMatcher", text);
 }
+
+/// The time that all finds in one text may take together. ICU's own limit counts the backtracking
+/// of one find, not how often and how far it goes forward.
+class TimeBudget
+{
+public:
+    /// Asks all finds of a matcher to keep to the budget, which must live as long.
+    void limit(icu::RegexMatcher &matcher, UErrorCode &status) const
+    {
+        matcher.setMatchCallback(&whileMatching, this, status);
+        matcher.setFindProgressCallback(&betweenStarts, this, status);
+    }
+
+private:
+    static std::chrono::nanoseconds now()
+    {
+        timespec time{};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+    }
+    bool isLeft() const { return now() < m_end; }
+
+    static UBool U_CALLCONV whileMatching(const void *budget, int32_t /*steps*/)
+    {
+        return static_cast<const TimeBudget *>(budget)->isLeft();
+    }
+    /// Called for every character of the text: does not look at the clock each time.
+    static UBool U_CALLCONV betweenStarts(const void *context, int64_t /*place*/)
+    {
+        constexpr unsigned betweenLooks = 64;
+        const auto *budget = static_cast<const TimeBudget *>(context);
+        return ++budget->m_starts % betweenLooks != 0 || budget->isLeft();
+    }
+
+    const std::chrono::nanoseconds m_end = now() + timeLimit;
+    mutable unsigned m_starts = 0;
+};
 
 /// The text without a copy of it.
 icu::UnicodeString aliasOf(const QString &text)
@@ -51,7 +89,7 @@ HRFError invalidError(UErrorCode status)
 HRFError matchError(UErrorCode status)
 {
     HRFError error = errorOf(status);
-    if (status == U_REGEX_TIME_OUT || status == U_REGEX_STACK_OVERFLOW) {
+    if (status == U_REGEX_STOPPED_BY_CALLER || status == U_REGEX_STACK_OVERFLOW) {
         error.description = tr("Matching the pattern takes too long");
         error.recoverySuggestion = tr("Try a pattern with fewer repetitions.");
     }
@@ -142,7 +180,8 @@ HRFPatternMatcher::matchesInString(const QString &source) const
     const std::unique_ptr<icu::RegexMatcher> matcher(m_expression->matcher(alias, status));
     if (U_FAILURE(status))
         return std::unexpected(errorOf(status));
-    matcher->setTimeLimit(timeLimit, status);
+    const TimeBudget budget;
+    budget.limit(*matcher, status);
     matcher->setStackLimit(stackLimit, status);
     std::vector<HRFMetaCaptureMatch> found;
     while (matcher->find(status) && U_SUCCESS(status))

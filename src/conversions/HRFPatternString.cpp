@@ -29,6 +29,12 @@ std::optional<Span> nextSpan(const QString &string, qsizetype from)
     return {};
 }
 
+/// What stands between the percent signs.
+QString nameIn(const QString &string, const Span &span)
+{
+    return string.sliced(span.start + 1, span.end - span.start - 2);
+}
+
 } // namespace
 
 QString HRFPatternStringForItems(const HRFPatternElements &items)
@@ -53,7 +59,7 @@ HRFPatternElements HRFItemsForPatternString(const QString &string,
     while (const std::optional<Span> span = nextSpan(string, end)) {
         literal += QStringView(string).sliced(end, span->start - end);
         end = span->end;
-        const QString name = string.sliced(span->start + 1, span->end - span->start - 2);
+        const QString name = nameIn(string, *span);
         if (name.isEmpty()) {
             literal += percent;
             continue;
@@ -67,4 +73,16 @@ HRFPatternElements HRFItemsForPatternString(const QString &string,
     if (end < string.size())
         elements.emplace_back(string.sliced(end));
     return elements;
+}
+
+QStringList HRFUnknownTokens(const QString &string, const std::vector<HRFPatternItem> &offeredItems)
+{
+    QStringList unknown;
+    for (auto span = nextSpan(string, 0); span; span = nextSpan(string, span->end)) {
+        const QString name = nameIn(string, *span);
+        const auto item = std::ranges::find(offeredItems, name, &HRFPatternItem::editingString);
+        if (!name.isEmpty() && item == offeredItems.end())
+            unknown.append(name);
+    }
+    return unknown;
 }

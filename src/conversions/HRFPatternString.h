@@ -2,6 +2,8 @@
 
 #include "conversions/HRFPattern.h"
 
+#include <QStringList>
+
 /// The text in which a pattern is typed and stored: a token is its editing string between two
 /// percent signs, a percent sign in literal text is doubled.
 QString HRFPatternStringForItems(const HRFPatternElements &items);
@@ -12,3 +14,7 @@ QString HRFPatternStringForItems(const HRFPatternElements &items);
 /// one is kept of what follows that token: stored patterns are read as they always were.
 HRFPatternElements HRFItemsForPatternString(const QString &string,
                                             const std::vector<HRFPatternItem> &offeredItems);
+
+/// The tokens in such a text that are none of the offered items, in their order.
+QStringList HRFUnknownTokens(const QString &string,
+                             const std::vector<HRFPatternItem> &offeredItems);

@@ -80,6 +80,10 @@ TEST(HRFPatternMatcherTest, RefusesToMatchForEver)
     EXPECT_EQ(matched(u"(a+)+$%title%"_s, source, HRFRegexMode::On), tooLong);
     EXPECT_EQ(matched(u"(a|aa)*$%title%"_s, QString(100'000, u'a') + u'b', HRFRegexMode::On),
               tooLong);
+    // Nothing is tried twice here, but all of a long text is looked at from each of its characters,
+    // by one find that fails or by many that do not.
+    for (const QString &pattern : {u"[^x]*+x"_s, u"a(?=[^x]*+)"_s})
+        EXPECT_EQ(matched(pattern, QString(500'000, u'a'), HRFRegexMode::On), tooLong);
     // Without mode the user can only repeat items; it is polynomial, but a lyric is long.
     EXPECT_EQ(matched(u"%title%%artist%%album%%comment%!"_s, QString(20'000, u'a')), tooLong);
 }
