@@ -26,9 +26,11 @@ std::vector<HRFTagChange> changesOf(const HRFMetaFile &record,
     for (const HRFNewValue &value : values)
         last.insert_or_assign(value.keyPath, value.value);
     std::vector<HRFTagChange> changes;
-    for (const auto &[keyPath, value] : last)
-        if (keyPath->value(record) != value)
-            changes.push_back({*HRFTagKeyForName(keyPath->attribute->name.toStdString()), value});
+    for (const auto &[keyPath, value] : last) {
+        const auto key = HRFTagKeyForName(keyPath->attribute->name.toStdString());
+        if (key && keyPath->value(record) != value)
+            changes.push_back({*key, value});
+    }
     return changes;
 }
 

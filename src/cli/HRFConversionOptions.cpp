@@ -13,9 +13,9 @@ namespace {
 
 struct SwitchRow
 {
-    const char *names;
+    const char *names = nullptr;
     QLatin1StringView setting;
-    const char *help;
+    const char *help = nullptr;
 };
 
 constexpr SwitchRow switchRows[] = {
@@ -60,19 +60,20 @@ void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options)
 {
     command
         .add_option(HRFPatternOptionName, options.conversion.pattern,
-                    "Text with tokens such as %title%; %% is a percent sign")
+                    "Text with tokens such as %title% (see tokens); %% is a percent sign")
         ->required();
 }
 
 void HRFAddRenderingOptions(CLI::App &command, HRFCommandOptions &options)
 {
-    for (const SwitchRow &row : switchRows)
+    for (const SwitchRow &row : switchRows) {
         command.add_flag_function(
             row.names,
             [&options, &row](std::int64_t count) {
                 options.settings.insert_or_assign(row.setting, count > 0);
             },
             row.help);
+    }
     HRFAddAnswerOption(
         command, "--fallback", fallbacks,
         [&options](qlonglong action) {

@@ -80,10 +80,11 @@ Values taggedValues(const HRFMetaFile &file, const HRFPatternMatcher &matcher,
 QStringList missingTokens(const HRFRecordValues &values, const HRFPattern &pattern)
 {
     QStringList missing;
-    for (const HRFPatternElement &element : pattern.items())
-        if (const auto *item = std::get_if<HRFPatternItem>(&element))
-            if (!values.valueForKeyPath(item->metadataKeyPath()).isValid())
-                missing.append(item->editingString());
+    for (const HRFPatternElement &element : pattern.items()) {
+        const auto *item = std::get_if<HRFPatternItem>(&element);
+        if (item && !values.valueForKeyPath(item->metadataKeyPath()).isValid())
+            missing.append(item->editingString());
+    }
     missing.removeDuplicates();
     return missing;
 }

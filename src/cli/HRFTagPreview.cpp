@@ -55,9 +55,10 @@ QByteArray HRFTagPreview::text() const
 QJsonObject HRFTagPreview::json() const
 {
     QJsonObject object;
-    for (const auto &[key, before, after] : changes)
+    for (const auto &[key, before, after] : changes) {
         object.insert(
             nameOf(key),
             QJsonObject{{u"old"_s, HRFJSONValue(before)}, {u"new"_s, HRFJSONValue(after)}});
+    }
     return object;
 }

@@ -43,14 +43,14 @@ private:
 
     static UBool U_CALLCONV whileMatching(const void *budget, int32_t /*steps*/)
     {
-        return static_cast<const TimeBudget *>(budget)->isLeft();
+        return UBool(static_cast<const TimeBudget *>(budget)->isLeft());
     }
     /// Called for every character of the text: does not look at the clock each time.
     static UBool U_CALLCONV betweenStarts(const void *context, int64_t /*place*/)
     {
         constexpr unsigned betweenLooks = 64;
         const auto *budget = static_cast<const TimeBudget *>(context);
-        return ++budget->m_starts % betweenLooks != 0 || budget->isLeft();
+        return UBool(++budget->m_starts % betweenLooks != 0 || budget->isLeft());
     }
 
     const std::chrono::nanoseconds m_end = now() + timeLimit;
