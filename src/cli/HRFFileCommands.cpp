@@ -125,10 +125,11 @@ int HRFSetTags(const HRFCommandOptions &options)
         if (options.isDryRun)
             return previewFiles(
                 run, [&](HRFTagEngine &engine) { return previewChanges(engine, *changes); });
-        if (hasArtwork)
+        if (hasArtwork) {
             return run.changeFiles([&](HRFPlaylist &list, const HRFListRun::Records &records) {
                 return writeWithArtwork(list, records, *changes);
             });
+        }
         run.editFiles([&](HRFPlaylist &, const HRFListRun::Records &records) {
             editRecords(records, *changes);
         });
