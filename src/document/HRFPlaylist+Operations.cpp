@@ -15,6 +15,9 @@ using Wait = HRFMainThread::Wait;
 
 namespace {
 
+/// The records of so many operations are refreshed together, while the queue is at the next ones.
+constexpr std::ptrdiff_t sliceSize = 250;
+
 /// Saves the background context, then the main context. The user is told of a failure.
 void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext> &weakMain)
 {
@@ -40,12 +43,16 @@ HRFPlaylist::Operations succeeded(const HRFPlaylist::Operations &operations)
 
 } // namespace
 
-/// What the batches that have not ended are to write, by record.
-QHash<HRFObjectID, QSet<QString>> HRFPlaylist::tagsOfPendingWrites() const
+/// What the operations that have not ended are to write, by record: where operations have read
+/// files anew, the records know better.
+QHash<HRFObjectID, QSet<QString>> HRFPlaylist::newerTagsThan(const Operations &operations) const
 {
+    if (std::ranges::none_of(operations,
+                             [](const auto &operation) { return HRFReadsFileAnew(*operation); }))
+        return {};
     QHash<HRFObjectID, QSet<QString>> tags;
-    for (const auto &[number, batch] : m_batches)
-        for (const auto &operation : batch.operations)
+    for (const auto &[number, slice] : m_slices)
+        for (const auto &operation : slice.operations)
             if (const auto write = std::dynamic_pointer_cast<HRFTagWriteOperation>(operation))
                 for (const QString &tag : write->changedValues().keys())
                     tags[write->objectID()].insert(tag);
@@ -118,14 +125,27 @@ void HRFPlaylist::runOperations(const Operations &operations, std::function<void
         progress->setCompletedUnitCount(0);
         progress->setTotalUnitCount(qlonglong(total));
     });
+    const auto batch = std::make_shared<Batch>(Batch{operations, std::move(whenDone)});
+    auto slice = batch->operations.begin();
+    do {
+        const auto end = slice + std::min(sliceSize, batch->operations.end() - slice);
+        ++batch->unfinishedSlices;
+        runSlice({slice, end}, batch);
+        slice = end;
+    } while (slice != batch->operations.end());
+}
+
+void HRFPlaylist::runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch)
+{
+    HRFOperationQueue &queue = HRFMetaFileManager::fileOperationQueue();
     queue.addOperations({operations.begin(), operations.end()}, false);
-    const quint64 number = ++m_lastBatch;
-    m_batches.emplace(number, Batch{operations, std::move(whenDone)});
+    const quint64 number = ++m_lastSlice;
+    m_slices.emplace(number, Slice{operations, batch});
     queue.addBarrierBlock([reference = m_weakSelf.reference(), number] {
         HRFMainThread::run(
             [reference, number] {
                 if (HRFPlaylist *self = reference.get())
-                    self->operationsDidEnd(self->m_batches.extract(number).mapped());
+                    self->sliceDidEnd(self->m_slices.extract(number).mapped());
             },
             Wait::No);
     });
@@ -134,25 +154,27 @@ void HRFPlaylist::runOperations(const Operations &operations, std::function<void
 std::set<std::shared_ptr<HRFProgress>> HRFPlaylist::pendingProgresses() const
 {
     std::set<std::shared_ptr<HRFProgress>> progresses;
-    for (const auto &[number, batch] : m_batches)
-        for (const auto &operation : batch.operations)
+    for (const auto &[number, slice] : m_slices)
+        for (const auto &operation : slice.operations)
             if (auto progress = operation->progress())
                 progresses.insert(std::move(progress));
     return progresses;
 }
 
-void HRFPlaylist::operationsDidEnd(const Batch &batch)
+void HRFPlaylist::sliceDidEnd(const Slice &slice)
 {
-    const auto tellAll = [reference = m_weakSelf.reference(), batch] {
-        if (batch.whenDone)
-            batch.whenDone();
+    const auto tellAll = [reference = m_weakSelf.reference(), batch = slice.batch] {
+        if (--batch->unfinishedSlices > 0)
+            return;
+        if (batch->whenDone)
+            batch->whenDone();
         if (HRFPlaylist *self = reference.get())
-            Q_EMIT self->fileOperationsDidEnd(batch.operations);
+            Q_EMIT self->fileOperationsDidEnd(batch->operations);
     };
     if (m_shouldClose)
         tellAll();
     else
-        handleCompletedFileWriteOperations(succeeded(batch.operations), tellAll);
+        handleCompletedFileWriteOperations(succeeded(slice.operations), tellAll);
 }
 
 void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operations,
@@ -164,7 +186,7 @@ void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operation
         return;
     }
     performBlockInBackgroundContext(
-        [operations, newerTags = tagsOfPendingWrites()](HRFPrivateContext &context) {
+        [operations, newerTags = newerTagsThan(operations)](HRFPrivateContext &context) {
             for (const auto &operation : operations)
                 if (auto *file = context.object<HRFMetaFile>(operation->objectID()))
                     HRFUpdateWithOperation(*file, *operation,

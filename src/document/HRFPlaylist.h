@@ -93,14 +93,14 @@ public:
                                    HRFProgressDisplayMode mode, const OperationMaker &block);
     /// Queues operations, and refreshes the records of those that succeed.
     void runOperations(const Operations &operations, std::function<void()> whenDone = {});
-    /// The progresses of the batches that have not ended.
+    /// The progresses of the operations that have not ended.
     std::set<std::shared_ptr<HRFProgress>> pendingProgresses() const;
     /// Refreshes the records of operations that have succeeded.
     void handleCompletedFileWriteOperations(const Operations &operations,
                                             std::function<void()> whenDone = {});
 
 Q_SIGNALS:
-    /// Operations on files of this list are done, well or not, and the records say so.
+    /// A batch of operations on files of this list is done, well or not, and the records say so.
     void fileOperationsDidEnd(const HRFPlaylist::Operations &operations);
 
 private:
@@ -111,16 +111,24 @@ private:
     {
         Operations operations;
         std::function<void()> whenDone;
+        std::size_t unfinishedSlices = 0; ///< those whose records are not refreshed yet
     };
-    void operationsDidEnd(const Batch &batch);
-    QHash<HRFObjectID, QSet<QString>> tagsOfPendingWrites() const;
+    /// Operations of a batch whose records are refreshed together.
+    struct Slice
+    {
+        Operations operations;
+        std::shared_ptr<Batch> batch;
+    };
+    void runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch);
+    void sliceDidEnd(const Slice &slice);
+    QHash<HRFObjectID, QSet<QString>> newerTagsThan(const Operations &operations) const;
 
     HRFDocumentController &m_documents;
     std::unique_ptr<HRFMetaFileManager> m_fileManager;
     std::unique_ptr<HRFArrayController> m_fileController;
     HRFPlaylistWindow *m_window = nullptr;
     bool m_shouldClose = false;
-    std::map<quint64, Batch> m_batches; ///< those that have not ended, by number
-    quint64 m_lastBatch = 0;
+    std::map<quint64, Slice> m_slices; ///< those that have not ended, by number
+    quint64 m_lastSlice = 0;
     const HRFWeakSelf<HRFPlaylist> m_weakSelf{this};
 };

@@ -46,10 +46,15 @@ void takeResults(HRFMetaFile &file, const HRFTagWriteOperation &operation)
 
 } // namespace
 
+bool HRFReadsFileAnew(const HRFFileOperation &operation)
+{
+    return dynamic_cast<const HRFStripTagsOperation *>(&operation) != nullptr;
+}
+
 void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation,
                             const QSet<QString> &newerTags)
 {
-    if (dynamic_cast<const HRFStripTagsOperation *>(&operation))
+    if (HRFReadsFileAnew(operation))
         return readAnew(file, operation.fileURL(), newerTags);
     if (const auto *write = dynamic_cast<const HRFTagWriteOperation *>(&operation))
         takeResults(file, *write);
