@@ -27,7 +27,7 @@ struct Identity
     quint64 inode = 0;
 
     friend bool operator==(const Identity &, const Identity &) = default;
-    friend std::size_t qHash(const Identity &identity, std::size_t seed) noexcept
+    friend std::size_t qHash(const Identity &identity, std::size_t seed = 0) noexcept
     {
         return qHashMulti(seed, identity.device, identity.inode);
     }
@@ -59,19 +59,24 @@ struct Place
     friend bool operator==(const Place &, const Place &) = default;
 };
 
-/// A file that has a reference.
-struct Known
-{
-    Place place;
-    qint64 birth = 0;
-    quint32 generation = 1; ///< counts the files that have had the inode
-};
-
-/// Names a known file: its identity, and which of the files that have had it.
+/// Names a known file: the identity that it had first, and which of the files that have had it.
 struct Reference
 {
     Identity identity;
     quint32 generation = 1;
+
+    friend bool operator==(const Reference &, const Reference &) = default;
+    friend std::size_t qHash(const Reference &reference, std::size_t seed) noexcept
+    {
+        return qHashMulti(seed, reference.identity, reference.generation);
+    }
+};
+
+/// A file that has a reference.
+struct Known
+{
+    Place place;
+    File file;
 };
 
 std::optional<File> fileAt(const QByteArray &path);
@@ -90,59 +95,84 @@ public:
     Reference insert(const File &file, const Place &place)
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_files.find(file.identity);
-        if (found == m_files.end()) {
-            m_files.insert(file.identity, {withSharedFolder(place), file.birth});
-            return {file.identity};
-        }
-        const bool isAnother = found->birth != file.birth;
-        if (isAnother)
-            ++found->generation;
-        found->birth = file.birth;
+        const Reference last = lastReferenceOf(file.identity);
+        const auto found = m_files.find(last);
+        if (found == m_files.end() || found->file != file)
+            return insertNew(file, place);
         // The path of a file that has several is the one that was known first.
-        if (isAnother || (found->place != place && fileAt(found->place.path()) != file))
+        if (found->place != place && fileAt(found->place.path()) != file)
             found->place = withSharedFolder(place);
-        return {file.identity, found->generation};
+        return last;
     }
     std::optional<Known> find(const Reference &reference) const
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_files.constFind(reference.identity);
-        return found == m_files.cend() || found->generation != reference.generation
-            ? std::nullopt
-            : std::optional(*found);
+        const auto found = m_files.constFind(reference);
+        return found == m_files.cend() ? std::nullopt : std::optional(*found);
     }
     /// Unless another thread has put the file elsewhere meanwhile.
-    void replace(const Identity &identity, const Place &oldPlace, const Place &newPlace)
+    void move(const Reference &reference, const Place &oldPlace, const Place &newPlace)
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_files.find(identity);
+        const auto found = m_files.find(reference);
         if (found != m_files.end() && found->place == oldPlace)
             found->place = withSharedFolder(newPlace);
     }
     void put(const File &file, const Place &place)
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_files.find(file.identity);
-        if (found != m_files.end() && found->birth == file.birth)
+        const auto found = m_files.find(lastReferenceOf(file.identity));
+        if (found != m_files.end() && found->file == file)
             found->place = withSharedFolder(place);
     }
-    /// Whatever file has the identity now.
-    std::optional<Place> placeOf(const Identity &identity) const
+    std::optional<Reference> referenceOf(const File &file) const
     {
         const std::lock_guard guard(m_lock);
-        const auto found = m_files.constFind(identity);
-        return found == m_files.cend() ? std::nullopt : std::optional(found->place);
+        const Reference last = lastReferenceOf(file.identity);
+        const auto found = m_files.constFind(last);
+        return found == m_files.cend() || found->file != file ? std::nullopt : std::optional(last);
+    }
+    /// Nobody sees the new file under the reference of the old one, or the reverse.
+    int replace(const QByteArray &replacement, const QByteArray &path)
+    {
+        const std::lock_guard guard(m_lock);
+        const std::optional<File> oldFile = fileAt(path);
+        if (::rename(replacement.constData(), path.constData()) != 0)
+            return errno;
+        const std::optional<File> newFile = fileAt(path);
+        const Reference reference = oldFile ? lastReferenceOf(oldFile->identity) : Reference();
+        const auto found = m_files.find(reference);
+        if (newFile && found != m_files.end() && found->file == oldFile) {
+            found->file = *newFile;
+            m_lastReferences.insert(newFile->identity, reference);
+        }
+        return 0;
     }
 
 private:
+    Reference lastReferenceOf(const Identity &identity) const
+    {
+        return m_lastReferences.value(identity, Reference{identity});
+    }
+    Reference insertNew(const File &file, const Place &place)
+    {
+        Reference reference{file.identity};
+        while (m_files.contains(reference))
+            ++reference.generation;
+        m_files.insert(reference, {withSharedFolder(place), file});
+        if (reference != lastReferenceOf(file.identity))
+            m_lastReferences.insert(file.identity, reference);
+        return reference;
+    }
     Place withSharedFolder(const Place &place)
     {
         return {*m_folders.insert(place.folder), place.name};
     }
 
     mutable std::mutex m_lock; ///< guards what follows
-    QHash<Identity, Known> m_files;
+    QHash<Reference, Known> m_files;
+    /// Of the identities that more than one file has had, or that a replacing file has.
+    QHash<Identity, Reference> m_lastReferences;
     QSet<QByteArray> m_folders;
 };
 
@@ -262,17 +292,18 @@ private:
 
 std::optional<HRFFileReference> fileWithReference(const Reference &reference)
 {
-    const std::optional<Known> known = Table::shared().find(reference);
-    if (!known)
-        return {};
-    const File file{reference.identity, known->birth};
-    if (fileAt(known->place.path()) == file)
-        return HRFFileReference::fromNativePath(known->place.path());
-    const std::optional<Place> found = FolderListing::find(known->place.folder, file);
-    if (!found)
-        return {};
-    Table::shared().replace(reference.identity, known->place, *found);
-    return HRFFileReference::fromNativePath(found->path());
+    while (const std::optional<Known> known = Table::shared().find(reference)) {
+        if (fileAt(known->place.path()) == known->file)
+            return HRFFileReference::fromNativePath(known->place.path());
+        if (const auto found = FolderListing::find(known->place.folder, known->file)) {
+            Table::shared().move(reference, known->place, *found);
+            return HRFFileReference::fromNativePath(found->path());
+        }
+        const bool wasReplacedMeanwhile = Table::shared().find(reference)->file != known->file;
+        if (!wasReplacedMeanwhile)
+            break;
+    }
+    return {};
 }
 
 } // namespace
@@ -320,13 +351,18 @@ void HRFFileReferenceTable::preferPath(const HRFFileReference &file)
 void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFFileReference &to)
 {
     const std::optional<File> file = fileAt(to.nativePath());
-    const std::optional<Place> known =
-        file ? Table::shared().placeOf(file->identity) : std::nullopt;
+    const auto reference = file ? Table::shared().referenceOf(*file) : std::nullopt;
+    const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
     if (!known)
         return;
     // A hard link that was moved is not where the file is known to be.
-    const bool hasMoved =
-        known->path() == absolutePath(from.nativePath()) || fileAt(known->path()) != file;
+    const bool hasMoved = known->place.path() == absolutePath(from.nativePath())
+        || fileAt(known->place.path()) != file;
     if (hasMoved)
-        Table::shared().replace(file->identity, *known, Place::of(absolutePath(to.nativePath())));
+        Table::shared().move(*reference, known->place, Place::of(absolutePath(to.nativePath())));
+}
+
+int HRFFileReferenceTable::replaceFile(const QByteArray &replacement, const QByteArray &path)
+{
+    return Table::shared().replace(replacement, path);
 }

@@ -9,7 +9,7 @@
 /// Files by identity: a reference URL names a file by device and inode
 /// ("file:///.file/id=DEVICE.INODE", decimal), whatever it is called. A file that was given the
 /// inode of a deleted one, which its time of birth tells, has another reference (".2" at its end,
-/// and so on).
+/// and so on); one that took the place of another by replaceFile() has the reference of that.
 ///
 /// The table remembers the last known path of every reference that it made. All members may be
 /// called from any thread.
@@ -32,5 +32,9 @@ void preferPath(const HRFFileReference &file);
 
 /// To be told when this program has moved a file.
 void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
+
+/// Renames a file over another, which it replaces: it has the reference of that from now on, and
+/// whoever looks for the reference meanwhile finds the one or the other. 0, or an errno.
+int replaceFile(const QByteArray &replacement, const QByteArray &path);
 
 } // namespace HRFFileReferenceTable

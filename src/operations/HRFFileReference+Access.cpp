@@ -1,4 +1,4 @@
-#include "operations/HRFDescriptor.h"
+#include "kit/HRFDescriptor.h"
 #include "operations/HRFFileReference+Access.h"
 
 #include <cerrno>

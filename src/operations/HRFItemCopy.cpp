@@ -1,7 +1,7 @@
 #include "operations/HRFItemCopy.h"
 
-#include "operations/HRFDescriptor.h"
-#include "operations/HRFItemAttributes.h"
+#include "kit/HRFDescriptor.h"
+#include "kit/HRFItemAttributes.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "operations/HRFItemMove.h"
 
-#include "operations/HRFDescriptor.h"
+#include "kit/HRFDescriptor.h"
 #include "operations/HRFExclusiveRename.h"
 #include "operations/HRFItemCopy.h"
 

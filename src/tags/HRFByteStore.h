@@ -1,10 +1,12 @@
 #pragma once
 
 #include "kit/HRFError.h"
+#include "tags/HRFPiece.h"
 
 #include <QByteArray>
 
 #include <span>
+#include <vector>
 
 /// The bytes that a tag stream reads from and writes to: a file, or something in its place in
 /// tests. Offsets and sizes are in bytes.
@@ -27,6 +29,12 @@ public:
     /// bytes it read.
     virtual qint64 readAt(qint64 offset, std::span<char> buffer) = 0;
 
+    /// Puts the contents that the pieces make in the place of the old ones, all at once.
+    ///
+    /// @return false where that cannot be done: then nothing has happened
+    [[nodiscard]] virtual bool replace(const std::vector<HRFPiece> &) { return false; }
+
+    // In place:
     /// Called once before the first write. Makes room for @p newSize bytes, so that a full disk is
     /// noticed before anything is changed.
     [[nodiscard]] virtual HRFResult<void> prepareWriting(qint64 newSize) = 0;

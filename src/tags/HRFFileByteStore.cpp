@@ -1,7 +1,10 @@
 #include "tags/HRFFileByteStore.h"
 
+#include "tags/HRFFileReplacement.h"
+
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -27,6 +30,20 @@ HRFError notRegularError()
 std::unexpected<HRFError> lastError()
 {
     return std::unexpected(HRFError::fromErrno(errno));
+}
+
+HRFResult<void> writeAll(int descriptor, qint64 offset, std::span<const char> data)
+{
+    while (!data.empty()) {
+        const ssize_t count = ::pwrite(descriptor, data.data(), data.size(), offset);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return lastError();
+        data = data.subspan(std::size_t(count));
+        offset += count;
+    }
+    return {};
 }
 
 } // namespace
@@ -121,16 +138,44 @@ HRFResult<void> HRFFileByteStore::prepareWriting(qint64 newSize)
 
 HRFResult<void> HRFFileByteStore::writeAt(qint64 offset, std::span<const char> data)
 {
-    while (!data.empty()) {
-        const ssize_t count = ::pwrite(m_writeDescriptor, data.data(), data.size(), offset);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return lastError();
-        data = data.subspan(std::size_t(count));
-        offset += count;
+    return writeAll(m_writeDescriptor, offset, data);
+}
+
+bool HRFFileByteStore::replace(const std::vector<HRFPiece> &pieces)
+{
+    const HRFResult<Identity> present = identityOf(m_readDescriptor);
+    if (!isWritable() || !present || *present != m_identity)
+        return false;
+    const auto replacement = HRFFileReplacement::begin(m_path, m_readDescriptor);
+    if (!replacement)
+        return false;
+    qint64 offset = 0;
+    for (const HRFPiece &piece : pieces)
+        if (!copyPiece(piece, replacement->descriptor(),
+                       std::exchange(offset, offset + piece.length)))
+            return false;
+    if (!replacement->takePlace())
+        return false;
+    ::close(std::exchange(m_readDescriptor, replacement->releaseDescriptor()));
+    m_identity = identityOf(m_readDescriptor).value_or(Identity());
+    return true;
+}
+
+bool HRFFileByteStore::copyPiece(const HRFPiece &piece, int copy, qint64 offset)
+{
+    if (piece.isNew)
+        return writeAll(copy, offset, {piece.bytes.data(), piece.bytes.size()}).has_value();
+    constexpr qint64 chunkSize = 1 << 20;
+    std::vector<char> buffer(std::size_t(std::min(chunkSize, piece.length)));
+    for (qint64 done = 0; done < piece.length;) {
+        const auto chunk =
+            std::span(buffer).first(std::size_t(std::min(chunkSize, piece.length - done)));
+        if (readAt(piece.source + done, chunk) != qint64(chunk.size())
+            || !writeAll(copy, offset + done, chunk))
+            return false;
+        done += qint64(chunk.size());
     }
-    return {};
+    return true;
 }
 
 HRFResult<void> HRFFileByteStore::finishWriting(qint64 newSize)

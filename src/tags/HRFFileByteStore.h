@@ -12,8 +12,8 @@
 /// The bytes of a regular file.
 ///
 /// The file is opened for reading only, so that merely showing it does not look like a change to
-/// other programs; it is opened for writing when there is something to write. The file keeps its
-/// inode. A file that another program changed in the meantime is not written.
+/// other programs; it is opened for writing when there is something to write. A file that another
+/// program changed in the meantime is not written.
 class HRFFileByteStore : public HRFByteStore
 {
 public:
@@ -24,6 +24,7 @@ public:
     qint64 size() const override { return m_identity.size; }
     bool isWritable() const override;
     qint64 readAt(qint64 offset, std::span<char> buffer) override;
+    bool replace(const std::vector<HRFPiece> &pieces) override;
     HRFResult<void> prepareWriting(qint64 newSize) override;
     HRFResult<void> writeAt(qint64 offset, std::span<const char> data) override;
     HRFResult<void> finishWriting(qint64 newSize) override;
@@ -44,6 +45,7 @@ private:
 
     HRFFileByteStore(QByteArray path, int descriptor, const Identity &identity);
     static HRFResult<Identity> identityOf(int descriptor);
+    bool copyPiece(const HRFPiece &piece, int copy, qint64 offset);
 
     QByteArray m_path;
     int m_readDescriptor = -1;

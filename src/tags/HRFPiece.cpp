@@ -1,5 +1,7 @@
 #include "tags/HRFPiece.h"
 
+#include "tags/HRFByteStore.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -205,6 +207,17 @@ HRFError PieceWriter::undo(HRFError cause, qint64 oldSize)
 }
 
 } // namespace
+
+qint64 HRFMovedBytes(const std::vector<HRFPiece> &pieces)
+{
+    qint64 moved = 0;
+    qint64 offset = 0;
+    for (const HRFPiece &piece : pieces) {
+        moved += !piece.isNew && piece.source != offset ? piece.length : 0;
+        offset += piece.length;
+    }
+    return moved;
+}
 
 HRFResult<void> HRFWritePieces(HRFByteStore &store, const std::vector<HRFPiece> &pieces)
 {

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "tags/HRFByteStore.h"
+#include "kit/HRFError.h"
 
 #include <taglib/tbytevector.h>
 
 #include <vector>
+
+class HRFByteStore;
 
 /// A run of a changed file's contents: bytes that the store holds, or new bytes.
 struct HRFPiece
@@ -14,6 +16,9 @@ struct HRFPiece
     TagLib::ByteVector bytes{}; ///< new bytes, or empty
     bool isNew = false;
 };
+
+/// How many of a store's bytes are to be at another offset.
+qint64 HRFMovedBytes(const std::vector<HRFPiece> &pieces);
 
 /// Rearranges a store in place so that it holds the given pieces one after the other; stored pieces
 /// must be in the order in which the store holds them. Room for a growing store is made first. When

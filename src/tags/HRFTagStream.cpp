@@ -185,7 +185,11 @@ HRFResult<void> HRFTagStream::commit()
         return {};
     if (m_hasReadFailed)
         return std::unexpected(HRFError::fromErrno(EIO));
-    if (auto written = HRFWritePieces(*m_store, m_pieces); !written)
+    // Where most of the file moves, a new one costs no more, and no half is left of it. Elsewhere
+    // the writes in place are short.
+    const bool isReplaced = 2 * HRFMovedBytes(m_pieces) > m_length && m_store->replace(m_pieces);
+    if (auto written = isReplaced ? HRFResult<void>() : HRFWritePieces(*m_store, m_pieces);
+        !written)
         return written;
     const qint64 position = m_position;
     discard();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kit/HRFFileReference.h"
-#include "tags/HRFPiece.h"
+#include "tags/HRFByteStore.h"
 
 #include <taglib/tiostream.h>
 
@@ -19,7 +19,8 @@ class HRFTagStream : public TagLib::IOStream
 public:
     explicit HRFTagStream(std::unique_ptr<HRFByteStore> store);
 
-    /// Writes the changes into the file, in place; the file is as before when that fails.
+    /// Writes the changes: in place, or, where most of the file would have to move, into a new file
+    /// that replaces it. The file is as before when that fails.
     [[nodiscard]] HRFResult<void> commit();
     /// Forgets the changes.
     void discard();

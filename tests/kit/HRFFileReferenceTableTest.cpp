@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -76,6 +77,29 @@ TEST_F(HRFFileReferenceTableTest, KnowsReplacedFilesFromTheirNeighbours)
         EXPECT_EQ(std::ranges::count(urls, url), 0) << url.toStdString();
         EXPECT_EQ(resolved(url), at(name));
     }
+}
+
+/// The inode of every file that goes is free for the one that replaces the next.
+TEST_F(HRFFileReferenceTableTest, GivesReplacingFilesTheReferencesOfTheReplaced)
+{
+    const std::vector<std::string> names = {"1.mp3", "2.mp3", "3.mp3"};
+    std::vector<QString> urls;
+    for (const std::string &name : names)
+        urls.push_back(reference(made(name)));
+    for (int round = 0; round < 3; ++round)
+        for (const std::string &name : names)
+            ASSERT_EQ(HRFFileReferenceTable::replaceFile(QByteArray::fromStdString(made("new")),
+                                                         QByteArray::fromStdString(at(name))),
+                      0);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(reference(at(names[i])), urls[i]);
+        EXPECT_EQ(resolved(urls[i]), at(names[i]));
+        fs::rename(at(names[i]), at(names[i] + " by another program"));
+        EXPECT_EQ(resolved(urls[i]), at(names[i] + " by another program"));
+    }
+    const QString other = reference(made("other.mp3"));
+    EXPECT_EQ(std::ranges::count(urls, other), 0);
+    EXPECT_EQ(HRFFileReferenceTable::replaceFile("/nothing/here", "/nothing/there"), ENOENT);
 }
 
 TEST_F(HRFFileReferenceTableTest, FollowsMovesThatItIsToldOf)

@@ -1,4 +1,4 @@
-#include "operations/HRFItemAttributes.h"
+#include "kit/HRFItemAttributes.h"
 
 #include <QByteArray>
 #include <QList>
