@@ -306,6 +306,12 @@ std::optional<HRFFileReference> fileWithReference(const Reference &reference)
     return {};
 }
 
+std::optional<HRFFileReference> fileWithPathURL(const QString &url)
+{
+    const QUrl pathURL(url);
+    return pathURL.isLocalFile() ? std::optional(HRFFileReference::fromUrl(pathURL)) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<QString> HRFFileReferenceTable::referenceURLForFile(const HRFFileReference &file)
@@ -319,12 +325,20 @@ std::optional<QString> HRFFileReferenceTable::referenceURLForFile(const HRFFileR
 
 std::optional<HRFFileReference> HRFFileReferenceTable::fileForURL(const QString &url)
 {
-    if (url.startsWith(referencePrefix)) {
-        const std::optional<Reference> reference = referenceFromURL(url);
-        return reference ? fileWithReference(*reference) : std::nullopt;
-    }
-    const QUrl pathURL(url);
-    return pathURL.isLocalFile() ? std::optional(HRFFileReference::fromUrl(pathURL)) : std::nullopt;
+    if (!url.startsWith(referencePrefix))
+        return fileWithPathURL(url);
+    const std::optional<Reference> reference = referenceFromURL(url);
+    return reference ? fileWithReference(*reference) : std::nullopt;
+}
+
+std::optional<HRFFileReference> HRFFileReferenceTable::lastKnownFileForURL(const QString &url)
+{
+    if (!url.startsWith(referencePrefix))
+        return fileWithPathURL(url);
+    const std::optional<Reference> reference = referenceFromURL(url);
+    const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
+    return known ? std::optional(HRFFileReference::fromNativePath(known->place.path()))
+                 : std::nullopt;
 }
 
 std::optional<QString> HRFFileReferenceTable::lastKnownFolderForURL(const QString &url)
@@ -333,13 +347,8 @@ std::optional<QString> HRFFileReferenceTable::lastKnownFolderForURL(const QStrin
         const bool isRoot = place.folder.size() <= 1;
         return QString::fromUtf8(isRoot ? place.folder : place.folder.chopped(1));
     };
-    if (!url.startsWith(referencePrefix)) {
-        const auto file = fileForURL(url);
-        return file ? std::optional(folderOf(Place::of(file->nativePath()))) : std::nullopt;
-    }
-    const std::optional<Reference> reference = referenceFromURL(url);
-    const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
-    return known ? std::optional(folderOf(known->place)) : std::nullopt;
+    const std::optional<HRFFileReference> file = lastKnownFileForURL(url);
+    return file ? std::optional(folderOf(Place::of(file->nativePath()))) : std::nullopt;
 }
 
 void HRFFileReferenceTable::preferPath(const HRFFileReference &file)

@@ -23,6 +23,10 @@ std::optional<QString> referenceURLForFile(const HRFFileReference &file);
 /// file, else another name of it in the same folder, else nothing. A path URL gives its path.
 std::optional<HRFFileReference> fileForURL(const QString &url);
 
+/// The last known path: nothing is looked up on the disk. Nothing for a reference that this process
+/// has not made.
+std::optional<HRFFileReference> lastKnownFileForURL(const QString &url);
+
 /// The folder of the last known path, for display: nothing is looked up on the disk. Nothing for a
 /// reference that this process has not made; a path URL gives the folder of its path.
 std::optional<QString> lastKnownFolderForURL(const QString &url);

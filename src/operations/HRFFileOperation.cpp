@@ -28,7 +28,9 @@ HRFError notFoundError(const QString &fileName)
 void HRFFileOperation::setFile(const HRFMetaFile &file)
 {
     m_objectID = file.objectID();
-    const HRFFileReference url = file.url().value_or(HRFFileReference());
+    // Where the file is now is looked up when this runs.
+    const HRFFileReference url =
+        HRFFileReferenceTable::lastKnownFileForURL(file.fileURL()).value_or(HRFFileReference());
     const std::lock_guard lock(m_fieldsMutex);
     m_fileURL = url;
     m_fileName = file.fileInfo().displayFileName();

@@ -29,7 +29,7 @@ public:
     /// The record that this operation works for.
     HRFObjectID objectID() const { return m_objectID; }
     void setObjectID(HRFObjectID objectID) { m_objectID = objectID; }
-    /// The file as it was last seen; null when it was not found.
+    /// The file where it was last known to be; null when it was looked for and not found.
     HRFFileReference fileURL() const;
     void setFileURL(const HRFFileReference &file);
     /// The name of the file, for the user; known even when the file is not found.
