@@ -65,9 +65,10 @@ void HRFPlaylist::performBlockInBackgroundContext(std::function<void(HRFPrivateC
     const auto background = m_fileManager->backgroundContext();
     const std::weak_ptr<HRFMainContext> main = m_fileManager->managedObjectContext();
     const auto work = [background, main, block = std::move(block), whenDone = std::move(whenDone)] {
+        block(*background);
         {
+            // Only now, since what the user edits while the block is at work can be undone.
             const HRFUndoSuspension noUndo(main);
-            block(*background);
             saveBoth(*background, main);
         }
         if (whenDone)
