@@ -6,7 +6,6 @@
 #include "operations/HRFProgressWindowController.h"
 #include "operations/HRFTagWriteOperation.h"
 #include "store/HRFMetaFile.h"
-#include "store/HRFUndoSuspension.h"
 
 #include <algorithm>
 
@@ -18,7 +17,8 @@ namespace {
 /// The records of so many operations are refreshed together, while the queue is at the next ones.
 constexpr std::ptrdiff_t sliceSize = 250;
 
-/// Saves the background context, then the main context. The user is told of a failure.
+/// Saves the background context, then the main context. The user is told of a failure. What comes
+/// from the background is no edit, and so not undoable; what the user edits meanwhile is.
 void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext> &weakMain)
 {
     const HRFResult<void> saved = background.save();
@@ -29,6 +29,8 @@ void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext>
                 return; // the list is closed: there is nobody to miss anything
             if (const HRFResult<void> outcome = saved ? main->save() : saved; !outcome)
                 HRFUserInteraction::presentErrorLater(outcome.error());
+            main->processPendingChanges();
+            main->enableUndoRegistration();
         },
         Wait::Yes);
 }
@@ -47,15 +49,20 @@ HRFPlaylist::Operations succeeded(const HRFPlaylist::Operations &operations)
 /// files anew, the records know better.
 QHash<HRFObjectID, QSet<QString>> HRFPlaylist::newerTagsThan(const Operations &operations) const
 {
-    if (std::ranges::none_of(operations,
-                             [](const auto &operation) { return HRFReadsFileAnew(*operation); }))
-        return {};
+    m_fileManager->managedObjectContext()->processPendingChanges();
     QHash<HRFObjectID, QSet<QString>> tags;
+    for (const auto &operation : operations)
+        tags.insert(operation->objectID(), {});
     for (const auto &[number, slice] : m_slices)
-        for (const auto &operation : slice.operations)
-            if (const auto write = std::dynamic_pointer_cast<HRFTagWriteOperation>(operation))
+        for (const auto &operation : slice.operations) {
+            const auto entry = tags.find(operation->objectID());
+            const auto *write = entry == tags.end()
+                ? nullptr
+                : dynamic_cast<const HRFTagWriteOperation *>(operation.get());
+            if (write)
                 for (const QString &tag : write->changedValues().keys())
-                    tags[write->objectID()].insert(tag);
+                    entry->insert(tag);
+        }
     return tags;
 }
 
@@ -66,11 +73,7 @@ void HRFPlaylist::performBlockInBackgroundContext(std::function<void(HRFPrivateC
     const std::weak_ptr<HRFMainContext> main = m_fileManager->managedObjectContext();
     const auto work = [background, main, block = std::move(block), whenDone = std::move(whenDone)] {
         block(*background);
-        {
-            // Only now, since what the user edits while the block is at work can be undone.
-            const HRFUndoSuspension noUndo(main);
-            saveBoth(*background, main);
-        }
+        saveBoth(*background, main);
         if (whenDone)
             HRFMainThread::run(whenDone, Wait::No);
     };
@@ -178,6 +181,30 @@ void HRFPlaylist::sliceDidEnd(const Slice &slice)
         handleCompletedFileWriteOperations(succeeded(slice.operations), tellAll);
 }
 
+void HRFPlaylist::refresh(HRFPrivateContext &context, const Operations &operations,
+                          const HRFWeakReference<HRFPlaylist> &reference)
+{
+    // First of all, so that edits from here on are newer.
+    std::vector<HRFMetaFile *> files;
+    std::ranges::transform(operations, std::back_inserter(files),
+                           [&context](const auto &operation) {
+                               return context.object<HRFMetaFile>(operation->objectID());
+                           });
+    QHash<HRFObjectID, QSet<QString>> newerTags;
+    if (std::ranges::any_of(operations,
+                            [](const auto &operation) { return HRFReadsFileAnew(*operation); }))
+        HRFMainThread::run(
+            [&] {
+                if (const HRFPlaylist *self = reference.get())
+                    newerTags = self->newerTagsThan(operations);
+            },
+            Wait::Yes);
+    for (std::size_t i = 0; i < files.size(); ++i)
+        if (files[i])
+            HRFUpdateWithOperation(*files[i], *operations[i],
+                                   newerTags.value(operations[i]->objectID()));
+}
+
 void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operations,
                                                      std::function<void()> whenDone)
 {
@@ -187,11 +214,8 @@ void HRFPlaylist::handleCompletedFileWriteOperations(const Operations &operation
         return;
     }
     performBlockInBackgroundContext(
-        [operations, newerTags = newerTagsThan(operations)](HRFPrivateContext &context) {
-            for (const auto &operation : operations)
-                if (auto *file = context.object<HRFMetaFile>(operation->objectID()))
-                    HRFUpdateWithOperation(*file, *operation,
-                                           newerTags.value(operation->objectID()));
+        [reference = m_weakSelf.reference(), operations](HRFPrivateContext &context) {
+            refresh(context, operations, reference);
         },
         false,
         [reference = m_weakSelf.reference(), whenDone = std::move(whenDone)] {

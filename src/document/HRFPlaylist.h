@@ -121,6 +121,8 @@ private:
     };
     void runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch);
     void sliceDidEnd(const Slice &slice);
+    static void refresh(HRFPrivateContext &context, const Operations &operations,
+                        const HRFWeakReference<HRFPlaylist> &reference);
     QHash<HRFObjectID, QSet<QString>> newerTagsThan(const Operations &operations) const;
 
     HRFDocumentController &m_documents;

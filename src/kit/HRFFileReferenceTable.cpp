@@ -91,14 +91,17 @@ public:
         return *table;
     }
 
-    /// The reference of a file that was found at a place.
-    Reference insert(const File &file, const Place &place)
+    /// The reference of a file that was found at a place; nothing when another has taken that.
+    std::optional<Reference> insert(const File &file, const Place &place)
     {
         const std::lock_guard guard(m_lock);
         const Reference last = lastReferenceOf(file.identity);
         const auto found = m_files.find(last);
-        if (found == m_files.end() || found->file != file)
+        if (found == m_files.end())
             return insertNew(file, place);
+        if (found->file != file && m_successors.value(last) != file)
+            return fileAt(place.path()) == file ? std::optional(insertNew(file, place))
+                                                : std::nullopt;
         // The path of a file that has several is the one that was known first.
         if (found->place != place && fileAt(found->place.path()) != file)
             found->place = withSharedFolder(place);
@@ -132,21 +135,36 @@ public:
         const auto found = m_files.constFind(last);
         return found == m_files.cend() || found->file != file ? std::nullopt : std::optional(last);
     }
-    /// Nobody sees the new file under the reference of the old one, or the reverse.
-    int replace(const QByteArray &replacement, const QByteArray &path)
+    bool isSuccessor(const Reference &reference, const File &file) const
     {
         const std::lock_guard guard(m_lock);
-        const std::optional<File> oldFile = fileAt(path);
-        if (::rename(replacement.constData(), path.constData()) != 0)
-            return errno;
-        const std::optional<File> newFile = fileAt(path);
-        const Reference reference = oldFile ? lastReferenceOf(oldFile->identity) : Reference();
-        const auto found = m_files.find(reference);
-        if (newFile && found != m_files.end() && found->file == oldFile) {
-            found->file = *newFile;
-            m_lastReferences.insert(newFile->identity, reference);
-        }
-        return 0;
+        const auto found = m_successors.constFind(reference);
+        return found != m_successors.cend() && *found == file;
+    }
+    /// @param successor has just been made: who was known as that is gone
+    void expectSuccessor(const File &file, const File &successor)
+    {
+        const std::lock_guard guard(m_lock);
+        const auto gone = m_files.find(lastReferenceOf(successor.identity));
+        if (gone != m_files.end() && gone->file == successor)
+            gone->file = {};
+        const Reference reference = lastReferenceOf(file.identity);
+        const auto found = m_files.constFind(reference);
+        if (found == m_files.cend() || found->file != file)
+            return;
+        m_successors.insert(reference, successor);
+        m_lastReferences.insert(successor.identity, reference);
+    }
+    void endSuccession(const File &file, const File &successor, bool hasSucceeded)
+    {
+        const std::lock_guard guard(m_lock);
+        const Reference reference = lastReferenceOf(file.identity);
+        if (m_successors.remove(reference) == 0)
+            return;
+        if (hasSucceeded)
+            m_files[reference].file = successor;
+        else
+            m_lastReferences.remove(successor.identity);
     }
 
 private:
@@ -173,6 +191,8 @@ private:
     QHash<Reference, Known> m_files;
     /// Of the identities that more than one file has had, or that a replacing file has.
     QHash<Identity, Reference> m_lastReferences;
+    /// Of files that are being replaced.
+    QHash<Reference, File> m_successors;
     QSet<QByteArray> m_folders;
 };
 
@@ -203,6 +223,11 @@ std::optional<File> fileAt(const QByteArray &path)
     return File{{device, status.stx_ino},
                 hasBirth ? status.stx_btime.tv_sec * nanosecondsPerSecond + status.stx_btime.tv_nsec
                          : 0};
+}
+
+std::optional<File> fileOfDescriptor(int descriptor)
+{
+    return fileAt("/proc/self/fd/" + QByteArray::number(descriptor));
 }
 
 /// The working folder may be another one later.
@@ -249,13 +274,13 @@ public:
         static std::mutex lock; // guards the listing
         static FolderListing listing;
         const std::lock_guard guard(lock);
-        if (listing.m_folder != folder || !listing.isUpToDate())
-            listing = FolderListing(folder);
-        for (const QByteArray &name :
-             listing.m_namesByInode.values(file.identity.inode) + listing.m_links)
-            if (fileAt(folder + name) == file)
-                return Place{folder, name};
-        return {};
+        const bool isOfFolder = listing.m_folder == folder;
+        if (const auto found = isOfFolder ? listing.find(file) : std::nullopt)
+            return found;
+        if (isOfFolder && listing.isUpToDate())
+            return {};
+        listing = FolderListing(folder);
+        return listing.find(file);
     }
 
 private:
@@ -272,6 +297,14 @@ private:
         // Changes that follow each other quickly may bear the same time.
         constexpr auto tick = std::chrono::milliseconds(100);
         m_isSettled = std::chrono::system_clock::now().time_since_epoch() > m_changed + tick;
+    }
+
+    std::optional<Place> find(const File &file) const
+    {
+        for (const QByteArray &name : m_namesByInode.values(file.identity.inode) + m_links)
+            if (fileAt(m_folder + name) == file)
+                return Place{m_folder, name};
+        return {};
     }
 
     bool isUpToDate() const { return m_isSettled && timeOfChange(m_folder) == m_changed; }
@@ -293,7 +326,9 @@ private:
 std::optional<HRFFileReference> fileWithReference(const Reference &reference)
 {
     while (const std::optional<Known> known = Table::shared().find(reference)) {
-        if (fileAt(known->place.path()) == known->file)
+        const std::optional<File> present = fileAt(known->place.path());
+        if (present
+            && (*present == known->file || Table::shared().isSuccessor(reference, *present)))
             return HRFFileReference::fromNativePath(known->place.path());
         if (const auto found = FolderListing::find(known->place.folder, known->file)) {
             Table::shared().move(reference, known->place, *found);
@@ -316,11 +351,11 @@ std::optional<HRFFileReference> fileWithPathURL(const QString &url)
 
 std::optional<QString> HRFFileReferenceTable::referenceURLForFile(const HRFFileReference &file)
 {
-    const std::optional<File> present = fileAt(file.nativePath());
-    if (!present)
-        return {};
-    return referenceURL(
-        Table::shared().insert(*present, Place::of(absolutePath(file.nativePath()))));
+    const Place place = Place::of(absolutePath(file.nativePath()));
+    while (const std::optional<File> present = fileAt(file.nativePath()))
+        if (const auto reference = Table::shared().insert(*present, place))
+            return referenceURL(*reference);
+    return {};
 }
 
 std::optional<HRFFileReference> HRFFileReferenceTable::fileForURL(const QString &url)
@@ -371,7 +406,18 @@ void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFF
         Table::shared().move(*reference, known->place, Place::of(absolutePath(to.nativePath())));
 }
 
-int HRFFileReferenceTable::replaceFile(const QByteArray &replacement, const QByteArray &path)
+void HRFFileReferenceTable::fileWillReplace(int replacement, int original)
 {
-    return Table::shared().replace(replacement, path);
+    const std::optional<File> successor = fileOfDescriptor(replacement);
+    const std::optional<File> file = fileOfDescriptor(original);
+    if (successor && file)
+        Table::shared().expectSuccessor(*file, *successor);
+}
+
+void HRFFileReferenceTable::fileDidReplace(int replacement, int original, bool hasReplaced)
+{
+    const std::optional<File> successor = fileOfDescriptor(replacement);
+    const std::optional<File> file = fileOfDescriptor(original);
+    if (successor && file)
+        Table::shared().endSuccession(*file, *successor, hasReplaced);
 }

@@ -9,7 +9,7 @@
 /// Files by identity: a reference URL names a file by device and inode
 /// ("file:///.file/id=DEVICE.INODE", decimal), whatever it is called. A file that was given the
 /// inode of a deleted one, which its time of birth tells, has another reference (".2" at its end,
-/// and so on); one that took the place of another by replaceFile() has the reference of that.
+/// and so on); one that this program put in the place of another has the reference of that.
 ///
 /// The table remembers the last known path of every reference that it made. All members may be
 /// called from any thread.
@@ -37,8 +37,11 @@ void preferPath(const HRFFileReference &file);
 /// To be told when this program has moved a file.
 void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
 
-/// Renames a file over another, which it replaces: it has the reference of that from now on, and
-/// whoever looks for the reference meanwhile finds the one or the other. 0, or an errno.
-int replaceFile(const QByteArray &replacement, const QByteArray &path);
+/// To be told that a file which this program has just made will take the place of another, whose
+/// reference it is to have. Both are open. Until fileDidReplace() the one or the other is the file
+/// with that reference.
+void fileWillReplace(int replacement, int original);
+/// @param hasReplaced false when the old file stays
+void fileDidReplace(int replacement, int original, bool hasReplaced);
 
 } // namespace HRFFileReferenceTable

@@ -61,8 +61,14 @@ QString HRFFileOperation::fileName() const
 
 QString HRFFileOperation::fileKey() const
 {
+    const QString url = referenceURL();
+    return url.isEmpty() ? QString::fromLatin1(fileURL().nativePath()) : url;
+}
+
+QString HRFFileOperation::referenceURL() const
+{
     const std::lock_guard lock(m_fieldsMutex);
-    return m_referenceURL.isEmpty() ? QString::fromLatin1(m_fileURL.nativePath()) : m_referenceURL;
+    return m_referenceURL;
 }
 
 std::shared_ptr<HRFProgress> HRFFileOperation::progress() const
@@ -97,12 +103,15 @@ void HRFFileOperation::setError(const std::optional<HRFError> &error)
 
 HRFResult<HRFFileReference> HRFFileOperation::findFile()
 {
+    const QString url = referenceURL();
+    const HRFFileReference found = url.isEmpty()
+        ? fileURL()
+        : HRFFileReferenceTable::fileForURL(url).value_or(HRFFileReference());
     const std::lock_guard lock(m_fieldsMutex);
-    if (!m_referenceURL.isEmpty())
-        m_fileURL = HRFFileReferenceTable::fileForURL(m_referenceURL).value_or(HRFFileReference());
-    if (m_fileURL.isNull())
+    m_fileURL = found;
+    if (found.isNull())
         return std::unexpected(notFoundError(m_fileName));
-    return m_fileURL;
+    return found;
 }
 
 void HRFFileOperation::mainDidThrow(const std::exception &failure)

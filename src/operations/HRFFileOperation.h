@@ -61,6 +61,8 @@ protected:
     mutable std::mutex m_fieldsMutex; ///< guards the fields of this class and those below it
 
 private:
+    QString referenceURL() const;
+
     std::atomic<HRFObjectID> m_objectID = 0;
     std::atomic<bool> m_isLast = false;
     std::atomic<bool> m_succeeded = false;

@@ -1,3 +1,4 @@
+#include "kit/HRFFileReferenceTable.h"
 #include "operations/HRFMetaFile+Operations.h"
 #include "operations/HRFStripTagsOperation.h"
 #include "store/HRFArtworkProperties.h"
@@ -54,9 +55,12 @@ bool HRFReadsFileAnew(const HRFFileOperation &operation)
 void HRFUpdateWithOperation(HRFMetaFile &file, const HRFFileOperation &operation,
                             const QSet<QString> &newerTags)
 {
+    // Later operations may have moved the file.
+    const HRFFileReference url =
+        HRFFileReferenceTable::fileForURL(file.fileURL()).value_or(operation.fileURL());
     if (HRFReadsFileAnew(operation))
-        return readAnew(file, operation.fileURL(), newerTags);
+        return readAnew(file, url, newerTags);
     if (const auto *write = dynamic_cast<const HRFTagWriteOperation *>(&operation))
         takeResults(file, *write);
-    file.fileInfo().updateAttributesForItemAtURL(operation.fileURL());
+    file.fileInfo().updateAttributesForItemAtURL(url);
 }

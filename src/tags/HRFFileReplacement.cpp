@@ -5,9 +5,15 @@
 
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <linux/limits.h>
+#include <linux/magic.h>
+#include <sys/vfs.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -37,13 +43,32 @@ bool isSameVersion(const struct stat &left, const struct stat &right)
         && left.st_mtim.tv_nsec == right.st_mtim.tv_nsec && left.st_nlink == right.st_nlink;
 }
 
-/// Lets the contents reach the disk before the name does: else a power failure could leave the name
-/// without them. Waiting for the file system's journal as well would take many times as long.
+/// Whether what is written to a file system reaches the disk before a later change of names,
+/// without waiting for the journal, which would take many times as long.
+bool keepsOrder(int descriptor)
+{
+    constexpr std::array journals{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC};
+    struct statfs system{};
+    return ::fstatfs(descriptor, &system) == 0
+        && std::ranges::find(journals, system.f_type) != journals.end();
+}
+
+/// Without this, a power failure could leave the new file without its contents.
 bool flush(int descriptor)
 {
     constexpr unsigned int writeAndWait =
         SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER;
-    return ::sync_file_range(descriptor, 0, 0, writeAndWait) == 0 || ::fsync(descriptor) == 0;
+    if (keepsOrder(descriptor))
+        return ::sync_file_range(descriptor, 0, 0, writeAndWait) == 0;
+    // Network file systems report some failures only when a descriptor is closed.
+    return ::fsync(descriptor) == 0 && ::close(::dup(descriptor)) == 0;
+}
+
+QByteArrayList extendedAttributesOf(int descriptor)
+{
+    QByteArray names(XATTR_LIST_MAX, Qt::Uninitialized);
+    const ssize_t size = ::flistxattr(descriptor, names.data(), std::size_t(names.size()));
+    return names.first(std::max<ssize_t>(size, 0)).split('\0');
 }
 
 } // namespace
@@ -55,8 +80,9 @@ std::unique_ptr<HRFFileReplacement> HRFFileReplacement::begin(const QByteArray &
         return nullptr;
     std::unique_ptr<HRFFileReplacement> replacement(
         new HRFFileReplacement(pathWithoutLinks(path), original, status));
-    return replacement->isOriginalUnchanged() && replacement->open() ? std::move(replacement)
-                                                                     : nullptr;
+    const bool isReady = replacement->isOriginalAt(replacement->m_path) && replacement->open()
+        && replacement->keepAttributes();
+    return isReady ? std::move(replacement) : nullptr;
 }
 
 HRFFileReplacement::HRFFileReplacement(QByteArray path, int original, const struct stat &status)
@@ -88,22 +114,23 @@ bool HRFFileReplacement::open()
     return m_hasName;
 }
 
-bool HRFFileReplacement::isOriginalUnchanged() const
-{
-    struct stat now{};
-    return ::stat(m_path.constData(), &now) == 0 && isSameVersion(now, m_status);
-}
-
 bool HRFFileReplacement::keepAttributes()
 {
     struct stat kept{};
     if (HRFKeepAttributes(m_original, m_status, m_descriptor) != 0
         || ::fstat(m_descriptor, &kept) != 0)
         return false;
-    const std::array changedNow{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT},
-                                timespec{.tv_sec = 0, .tv_nsec = UTIME_NOW}};
+    const QByteArrayList names = extendedAttributesOf(m_descriptor);
     return kept.st_uid == m_status.st_uid && kept.st_gid == m_status.st_gid
-        && kept.st_mode == m_status.st_mode && ::futimens(m_descriptor, changedNow.data()) == 0;
+        && kept.st_mode == m_status.st_mode
+        && std::ranges::all_of(extendedAttributesOf(m_original),
+                               [&names](const QByteArray &name) { return names.contains(name); });
+}
+
+bool HRFFileReplacement::isOriginalAt(const QByteArray &path) const
+{
+    struct stat now{};
+    return ::lstat(path.constData(), &now) == 0 && isSameVersion(now, m_status);
 }
 
 bool HRFFileReplacement::giveName()
@@ -116,13 +143,34 @@ bool HRFFileReplacement::giveName()
     return m_hasName;
 }
 
+/// Unlike a plain renaming, an exchange shows what it has replaced: somebody may have renamed the
+/// old file, or put another in its place, since the last look.
+bool HRFFileReplacement::exchange()
+{
+    const auto swapNames = [this] {
+        return ::renameat2(AT_FDCWD, m_temporaryPath.constData(), AT_FDCWD, m_path.constData(),
+                           RENAME_EXCHANGE)
+            == 0;
+    };
+    if (!swapNames())
+        return false;
+    if (isOriginalAt(m_temporaryPath)) {
+        ::unlink(m_temporaryPath.constData());
+        m_hasName = false;
+        return true;
+    }
+    m_hasName = swapNames(); // else the temporary name is that of what was found
+    return false;
+}
+
 bool HRFFileReplacement::takePlace()
 {
-    if (!keepAttributes() || !flush(m_descriptor) || !giveName() || !isOriginalUnchanged()
-        || HRFFileReferenceTable::replaceFile(m_temporaryPath, m_path) != 0)
+    if (!flush(m_descriptor) || !isOriginalAt(m_path) || !giveName())
         return false;
-    m_hasName = false;
-    return true;
+    HRFFileReferenceTable::fileWillReplace(m_descriptor, m_original);
+    const bool hasReplaced = exchange();
+    HRFFileReferenceTable::fileDidReplace(m_descriptor, m_original, hasReplaced);
+    return hasReplaced;
 }
 
 int HRFFileReplacement::releaseDescriptor()

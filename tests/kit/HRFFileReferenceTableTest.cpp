@@ -1,10 +1,12 @@
 #include "kit/HRFFileReferenceTable.h"
 
+#include "kit/HRFDescriptor.h"
+
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -86,20 +88,26 @@ TEST_F(HRFFileReferenceTableTest, GivesReplacingFilesTheReferencesOfTheReplaced)
     std::vector<QString> urls;
     for (const std::string &name : names)
         urls.push_back(reference(made(name)));
-    for (int round = 0; round < 3; ++round)
-        for (const std::string &name : names)
-            ASSERT_EQ(HRFFileReferenceTable::replaceFile(QByteArray::fromStdString(made("new")),
-                                                         QByteArray::fromStdString(at(name))),
-                      0);
+    for (int round = 0; round < 4; ++round)
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            const HRFDescriptor original(::open(at(names[i]).c_str(), O_RDONLY));
+            const HRFDescriptor successor(::open(made("new").c_str(), O_RDONLY));
+            const bool isReplaced = round != 1;
+            HRFFileReferenceTable::fileWillReplace(successor.get(), original.get());
+            if (isReplaced)
+                fs::rename(at("new"), at(names[i]));
+            EXPECT_EQ(resolved(urls[i]), at(names[i]));
+            EXPECT_EQ(reference(at(names[i])), urls[i]);
+            HRFFileReferenceTable::fileDidReplace(successor.get(), original.get(), isReplaced);
+            EXPECT_EQ(resolved(urls[i]), at(names[i]));
+        }
     for (std::size_t i = 0; i < names.size(); ++i) {
         EXPECT_EQ(reference(at(names[i])), urls[i]);
-        EXPECT_EQ(resolved(urls[i]), at(names[i]));
         fs::rename(at(names[i]), at(names[i] + " by another program"));
         EXPECT_EQ(resolved(urls[i]), at(names[i] + " by another program"));
     }
     const QString other = reference(made("other.mp3"));
     EXPECT_EQ(std::ranges::count(urls, other), 0);
-    EXPECT_EQ(HRFFileReferenceTable::replaceFile("/nothing/here", "/nothing/there"), ENOENT);
 }
 
 TEST_F(HRFFileReferenceTableTest, FollowsMovesThatItIsToldOf)

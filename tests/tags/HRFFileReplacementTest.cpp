@@ -1,13 +1,17 @@
+#include "tags/HRFFileReplacement.h"
+
 #include "kit/HRFFileReferenceTable.h"
 #include "support/HRFTestFile.h"
 
 #include <QTemporaryDir>
 
 #include <array>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -89,6 +93,18 @@ TEST_F(HRFFileReplacementTest, LeavesAFileWithTwoNamesInItsPlace)
     insertHead();
     EXPECT_EQ(status().st_ino, before);
     EXPECT_TRUE(contents() == "FOREHEAD" + m_sound);
+}
+
+TEST_F(HRFFileReplacementTest, DoesNotBringBackANameThatHasGone)
+{
+    const int original = ::open(m_path.c_str(), O_RDONLY);
+    const auto replacement =
+        HRFFileReplacement::begin(QByteArray::fromStdString(m_path.native()), original);
+    ASSERT_TRUE(replacement);
+    fs::rename(m_path, m_path.parent_path() / "renamed.mp3");
+    EXPECT_FALSE(replacement->takePlace());
+    EXPECT_FALSE(fs::exists(m_path));
+    ::close(original);
 }
 
 TEST_F(HRFFileReplacementTest, DoesNotReplaceWhatAnotherProgramHasChanged)
