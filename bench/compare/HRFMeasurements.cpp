@@ -142,6 +142,51 @@ void measureWritingThroughQueue(const HRFMeasuringPlace &place)
                                1.3);
 }
 
+/// A beginning of names that no call has answered before.
+std::string nextPrefix()
+{
+    static int number = 1'000'000;
+    return "renamed " + std::to_string(++number) + ' ';
+}
+
+void measureRenaming(const HRFMeasuringPlace &place)
+{
+    const fs::path folder = place.scratch / "renamed in a list";
+    Files plainFiles = copyFiles(place.corpus, place.scratch / "renamed plainly", fileCountToWrite);
+    copyFiles(place.corpus, folder, fileCountToWrite);
+    HRFListSide list;
+    list.import(folder);
+    const auto renamePlainly = [&](std::size_t) {
+        const std::string prefix = nextPrefix();
+        for (std::size_t i = 0; i < plainFiles.size(); ++i) {
+            const fs::path name = prefix + std::to_string(i) + plainFiles[i].extension().string();
+            const fs::path renamed = plainFiles[i].parent_path() / name;
+            fs::rename(plainFiles[i], renamed);
+            plainFiles[i] = renamed;
+        }
+    };
+    const HRFContest contest{.lirra = [&](std::size_t) { list.rename(nextPrefix()); },
+                             .plain = renamePlainly};
+    HRFResultTable::printRatio("rename through a list, against rename(2)",
+                               HRFCompare(contest, roundCount), 2.0);
+}
+
+void measureDryRun(const HRFMeasuringPlace &place)
+{
+    const std::string program = place.programs / "lirra-cli";
+    const std::vector<std::string> dryRun{
+        program,     "--dry-run",   "--on-conflict",
+        "keep-both", "--dot-names", "remove",
+        "rename",    "--pattern",   "%artist% - %trackNumber% %title%",
+        place.corpus};
+    const HRFContest contest{
+        .lirra = [&](std::size_t) { HRFRunProcess(dryRun); },
+        .plain = [&](std::size_t) { HRFRunProcess({program, "show", place.corpus}); },
+        .costOf = HRFCostOf::ChildProcesses};
+    HRFResultTable::printRatio("rename --dry-run, against lirra-cli show",
+                               HRFCompare(contest, roundCount), 1.0);
+}
+
 void measureStart(const HRFMeasuringPlace &place)
 {
     constexpr int runCount = 20;
@@ -166,6 +211,8 @@ constexpr Measurement measurements[] = {
     {"write", measureWriting},
     {"import", measureImporting},
     {"queue", measureWritingThroughQueue},
+    {"rename", measureRenaming},
+    {"dry-run", measureDryRun},
     {"start", measureStart},
 };
 

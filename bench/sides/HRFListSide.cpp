@@ -7,6 +7,7 @@
 #include "store/HRFDataFolder.h"
 #include "store/HRFMetaFile.h"
 #include "store/HRFMetaTags.h"
+#include "store/HRFSystemFile.h"
 
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -75,6 +76,17 @@ void HRFListSide::writeTitle(std::size_t first, std::size_t count, const std::st
     for (std::size_t i = first; i < first + count; ++i)
         files[i]->tags().setValueForKey(value, u"title"_s);
     loop.exec();
+}
+
+void HRFListSide::rename(const std::string &prefix)
+{
+    const auto &files = m_parts->list.fileController().arrangedObjects();
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        HRFSystemFile &info = files[i]->fileInfo();
+        info.setFileName(QString::fromStdString(prefix) + QString::number(i) + u'.'
+                         + info.fileExtension());
+    }
+    m_parts->list.managedObjectContext().processPendingChanges();
 }
 
 std::size_t HRFListSide::fileCount() const

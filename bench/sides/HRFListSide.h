@@ -18,6 +18,8 @@ public:
     void import(const std::filesystem::path &folder);
     /// Gives some of the files a title, until the files have it and the records are refreshed.
     void writeTitle(std::size_t first, std::size_t count, const std::string &title);
+    /// Gives all files names that begin so; the store hears of it with the next save.
+    void rename(const std::string &prefix);
     std::size_t fileCount() const;
 
 private:

@@ -6,6 +6,7 @@
 #include "cli/HRFConversionCommands.h"
 #include "cli/HRFFileCommands.h"
 #include "cli/HRFInterruption.h"
+#include "cli/HRFPlacementCommands.h"
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFMapManager.h"
 #include "tags/HRFTagKey.h"
@@ -98,6 +99,29 @@ void addCommands(CLI::App &app, HRFCommandOptions &options, Command &chosen)
     addFileCommand(app, options, chosen, &HRFStripTags, "strip", "Remove every tag of files");
 }
 
+void addPlacements(CLI::App &app, HRFCommandOptions &options, Command &chosen)
+{
+    CLI::App *rename = addFileCommand(app, options, chosen, &HRFRenameFiles, "rename",
+                                      "Name files after their tags");
+    HRFAddPatternOption(*rename, options);
+
+    CLI::App *move = addFileCommand(app, options, chosen, &HRFMoveFiles, "move",
+                                    "Move files into folders named after their tags");
+    CLI::Option *pattern = HRFAddPatternOption(*move, options)->required(false);
+    CLI::Option *base = move->add_option("--base", options.conversion.baseFolder,
+                                         "Make the folders here, and not where each file is")
+                            ->type_name("DIR");
+    move->add_option("--to", options.conversion.targetFolder, "Move the files to this folder")
+        ->type_name("DIR")
+        ->excludes(pattern)
+        ->excludes(base);
+    HRFAddMovingOptions(*move, options);
+    for (CLI::App *command : {rename, move}) {
+        HRFAddRenderingOptions(*command, options);
+        command->add_flag("--json", options.printsJSON, "One JSON object per line for each file");
+    }
+}
+
 void addConversions(CLI::App &app, HRFCommandOptions &options, Command &chosen)
 {
     HRFConversionOptions &conversion = options.conversion;
@@ -121,6 +145,7 @@ void addConversions(CLI::App &app, HRFCommandOptions &options, Command &chosen)
         command->add_flag("--json", options.printsJSON,
                           "In a dry run, one JSON object per line for each file that changes");
 
+    addPlacements(app, options, chosen);
     addCommand(app, chosen, &HRFListTokens, "tokens", "List the tokens of patterns");
 }
 

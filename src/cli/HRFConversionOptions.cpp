@@ -27,6 +27,24 @@ constexpr SwitchRow switchRows[] = {
      "Without the characters that SMB shares forbid"},
 };
 
+constexpr SwitchRow movingRows[] = {
+    {"--copy", "lirra.formatter.path.copyFiles"_L1, "Copy the files"},
+    {"--with-others", "lirra.formatter.path.moveAllFiles"_L1,
+     "Move what else is in a folder, too, when it has no audio files any more"},
+    {"--remove-empty", "lirra.formatter.path.removeEmptyDirectories"_L1,
+     "Put folders that have become empty into the Trash"},
+};
+
+void addSwitch(CLI::App &command, HRFCommandOptions &options, const SwitchRow &row)
+{
+    command.add_flag_function(
+        row.names,
+        [&options, &row](std::int64_t count) {
+            options.settings.insert_or_assign(row.setting, count > 0);
+        },
+        row.help);
+}
+
 const HRFAnswers<int> dotAnswers = {{"ask", HRFDotPrefixCheck::noAnswer},
                                     {"remove", HRFDotPrefixCheck::removeDot},
                                     {"cancel", HRFDotPrefixCheck::cancel},
@@ -56,9 +74,9 @@ void HRFAddNameAnswers(CLI::App &app, HRFCommandOptions &options)
         "What to do when a file with the new name exists");
 }
 
-void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options)
+CLI::Option *HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options)
 {
-    command
+    return command
         .add_option(HRFPatternOptionName, options.conversion.pattern,
                     "Text with tokens such as %title% (see tokens); %% is a percent sign")
         ->required();
@@ -66,20 +84,20 @@ void HRFAddPatternOption(CLI::App &command, HRFCommandOptions &options)
 
 void HRFAddRenderingOptions(CLI::App &command, HRFCommandOptions &options)
 {
-    for (const SwitchRow &row : switchRows) {
-        command.add_flag_function(
-            row.names,
-            [&options, &row](std::int64_t count) {
-                options.settings.insert_or_assign(row.setting, count > 0);
-            },
-            row.help);
-    }
+    for (const SwitchRow &row : switchRows)
+        addSwitch(command, options, row);
     HRFAddAnswerOption(
         command, "--fallback", fallbacks,
         [&options](qlonglong action) {
             options.settings.insert_or_assign(u"lirra.formatter.noMatchFallbackAction"_s, action);
         },
         "What a token without a value becomes");
+}
+
+void HRFAddMovingOptions(CLI::App &command, HRFCommandOptions &options)
+{
+    for (const SwitchRow &row : movingRows)
+        addSwitch(command, options, row);
 }
 
 std::expected<HRFPatternElements, QString>

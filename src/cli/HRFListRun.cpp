@@ -200,6 +200,17 @@ void HRFListRun::fail(const HRFMetaFile &record, const HRFError &error)
     fail(m_paths.value(record.fileURL()), error);
 }
 
+void HRFListRun::leaveOut(std::size_t fileCount)
+{
+    m_finished -= fileCount;
+    m_hasFailed = m_hasFailed || fileCount > 0;
+}
+
+HRFFileReference HRFListRun::givenPath(const HRFMetaFile &record) const
+{
+    return m_paths.value(record.fileURL());
+}
+
 void HRFListRun::fail(const HRFFileReference &path, const HRFError &error)
 {
     m_hasFailed = true;

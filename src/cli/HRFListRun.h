@@ -50,6 +50,12 @@ public:
 
     /// Names a file that is not done, and why.
     void fail(const HRFMetaFile &record, const HRFError &error);
+    /// Leaves out files of which the user was told already.
+    void leaveOut(std::size_t fileCount);
+    /// The path of a file as it was given or found.
+    HRFFileReference givenPath(const HRFMetaFile &record) const;
+    /// Whether the run is to end after the running file.
+    bool hasToEnd() const;
     /// Says what is wrong with the command line. To be called before anything else.
     void refuse(const QString &problem);
 
@@ -59,7 +65,6 @@ private:
     void visit(const HRFMetaFile &record, const Visitor &visitor);
     /// To be called ten times a second.
     void look();
-    bool hasToEnd() const;
     int exitStatus();
 
     void fail(const HRFFileReference &path, const HRFError &error);

@@ -41,12 +41,30 @@ std::size_t buttonFor(HRFErrorAnswer answer, const Buttons &buttons)
     return buttons.size() - 1;
 }
 
+/// What can be answered: a button under one of its titles.
+struct Choice
+{
+    QString title;
+    std::size_t button = 0;
+    bool isAlternate = false;
+};
+
+std::vector<Choice> choicesOf(const Buttons &buttons)
+{
+    std::vector<Choice> choices;
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        choices.push_back({buttons[i].title.toLower(), i});
+        if (!buttons[i].alternateTitle.isEmpty())
+            choices.push_back({buttons[i].alternateTitle.toLower(), i, true});
+    }
+    return choices;
+}
+
 /// A letter of each title, all different.
-QString lettersFor(const Buttons &buttons)
+QString lettersFor(const std::vector<Choice> &choices)
 {
     QString letters;
-    for (const HRFAlertButton &button : buttons) {
-        const QString title = button.title.toLower();
+    for (const auto &[title, button, isAlternate] : choices) {
         const auto isFree = [&](QChar letter) {
             return letter.isLetter() && letter != quitLetter.front() && !letters.contains(letter);
         };
@@ -56,33 +74,37 @@ QString lettersFor(const Buttons &buttons)
     return letters;
 }
 
-QString questionText(const HRFAlert &alert, const QString &letters)
+QString questionText(const HRFAlert &alert, const std::vector<Choice> &choices,
+                     const QString &letters)
 {
-    QStringList choices;
+    QStringList titles;
     for (qsizetype i = 0; i < letters.size(); ++i) {
-        QString title = alert.buttons[std::size_t(i)].title.toLower();
+        QString title = choices[std::size_t(i)].title;
         const qsizetype place = title.indexOf(letters[i]);
         const QString marked = u"[%1]"_s.arg(letters[i]);
-        choices += place < 0 ? marked + title : title.replace(place, 1, marked);
+        titles += place < 0 ? marked + title : title.replace(place, 1, marked);
     }
-    choices += u"[q]uit"_s;
+    titles += u"[q]uit"_s;
     const QString forAll = alert.suppressionTitle.isEmpty()
         ? QString()
         : u" (“%1 all” for all files)"_s.arg(letters.front());
-    return choices.join(u", "_s) + forAll + u"? "_s;
+    return titles.join(u", "_s) + forAll + u"? "_s;
 }
 
 /// What was typed, as an answer; nothing when it is none.
 std::optional<HRFAlertAnswer> parseAnswer(const QString &typed, const HRFAlert &alert,
+                                          const std::vector<Choice> &choices,
                                           const QString &letters)
 {
     const QStringList words = typed.split(u' ', Qt::SkipEmptyParts);
     const bool isForAll = words.size() == 2 && words[1] == forAllWord;
-    const qsizetype button = words[0].size() == 1 ? letters.indexOf(words[0]) : -1;
-    if (button < 0 || words.size() > (isForAll ? 2 : 1)
+    const qsizetype place = words[0].size() == 1 ? letters.indexOf(words[0]) : -1;
+    if (place < 0 || words.size() > (isForAll ? 2 : 1)
         || (isForAll && alert.suppressionTitle.isEmpty()))
         return {};
-    return HRFAlertAnswer{.button = std::size_t(button), .isSuppressed = isForAll};
+    const Choice &choice = choices[std::size_t(place)];
+    return HRFAlertAnswer{
+        .button = choice.button, .isSuppressed = isForAll, .isAlternate = choice.isAlternate};
 }
 
 /// The import ends with such an error when files were unreadable. They were named one by one.
@@ -122,6 +144,8 @@ HRFAlertAnswer HRFTerminalInteraction::runAlert(const HRFAlert &alert)
 {
     QStringList texts{alert.message, alert.informativeText};
     texts.removeAll(QString());
+    if (alert.isQuestion)
+        return runQuestion(alert, texts.join(u' ').replace(u'\n', u", "_s));
     tell(texts.join(u": "_s));
     if (asks())
         return ask(alert);
@@ -130,10 +154,20 @@ HRFAlertAnswer HRFTerminalInteraction::runAlert(const HRFAlert &alert)
     return {.button = buttonFor(m_onError, alert.buttons)};
 }
 
+/// What to do about errors has nothing to do with it.
+HRFAlertAnswer HRFTerminalInteraction::runQuestion(const HRFAlert &alert, const QString &text)
+{
+    m_console.report(text);
+    if (m_console.isInteractive())
+        return ask(alert);
+    return {.button = buttonFor(HRFErrorAnswer::Cancel, alert.buttons)};
+}
+
 bool HRFTerminalInteraction::presentError(const HRFError &error)
 {
+    const QString file = error.path.isEmpty() ? QString() : error.path + u": "_s;
     if (!isSummaryOfNamedFiles(error))
-        tell(error.fullText());
+        tell(file + error.fullText());
     return false;
 }
 
@@ -147,13 +181,14 @@ void HRFTerminalInteraction::tell(const QString &text)
 
 HRFAlertAnswer HRFTerminalInteraction::ask(const HRFAlert &alert)
 {
-    const QString letters = lettersFor(alert.buttons);
-    const QString question = questionText(alert, letters);
+    const std::vector<Choice> choices = choicesOf(alert.buttons);
+    const QString letters = lettersFor(choices);
+    const QString question = questionText(alert, choices, letters);
     while (!HRFInterruption::isRequested()) {
         const QString typed = m_console.ask(question);
         if (typed.isEmpty() || typed == quitLetter)
             break;
-        if (const auto answer = parseAnswer(typed, alert, letters))
+        if (const auto answer = parseAnswer(typed, alert, choices, letters))
             return *answer;
     }
     cancelShownWork();

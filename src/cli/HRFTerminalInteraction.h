@@ -37,6 +37,7 @@ public:
 private:
     bool asks() const { return m_onError == HRFErrorAnswer::Ask; }
     void tell(const QString &text);
+    HRFAlertAnswer runQuestion(const HRFAlert &alert, const QString &text);
     HRFAlertAnswer ask(const HRFAlert &alert);
 
     HRFConsole &m_console;

@@ -25,7 +25,8 @@ HRFResult<void> HRFCheckFileName(const QString &name)
         const char *text = QT_TRANSLATE_NOOP("HRFContainedSubPath", "The name “%1” is too long.");
         return refusal(ENAMETOOLONG, text, name);
     }
-    if (name.contains(u'\0') || name.contains(u'/')) {
+    const bool namesFolder = name == u"." || name == u"..";
+    if (namesFolder || name.contains(u'\0') || name.contains(u'/')) {
         const char *text = QT_TRANSLATE_NOOP("HRFContainedSubPath", "“%1” is no name for a file.");
         return refusal(EINVAL, text, name);
     }

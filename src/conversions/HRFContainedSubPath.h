@@ -10,5 +10,6 @@
 /// takes. Only looks at the text: links are not followed.
 HRFResult<QString> HRFContainedSubPath(const QString &path);
 
-/// Fails for a name that no file system takes: longer than 255 bytes, or with a NUL or a slash.
+/// Fails for a name that no file system takes: longer than 255 bytes, with a NUL or a slash, or "."
+/// and "..".
 HRFResult<void> HRFCheckFileName(const QString &name);

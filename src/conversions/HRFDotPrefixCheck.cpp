@@ -30,6 +30,7 @@ int ask(const QString &title)
     const HRFError error = HRFDotPrefixCheck::error();
     HRFAlert alert;
     alert.title = title;
+    alert.isQuestion = true;
     alert.message = error.description;
     alert.informativeText = error.recoverySuggestion;
     alert.buttons = {{.title = tr("Remove Dot"), .role = HRFAnswerRole::Fix},

@@ -1,19 +1,11 @@
 #pragma once
 
 #include "conversions/HRFConversionHost.h"
+#include "conversions/HRFConversionOutcome.h"
 #include "conversions/HRFPatternMatcher.h"
-
-#include <optional>
 
 class HRFProgress;
 struct HRFAttributeDescription;
-
-/// What has become of a batch: it may have changed some files and failed for others.
-struct HRFConversionOutcome
-{
-    bool hasChangedFiles = false;
-    std::optional<HRFError> error{};
-};
 
 /// The conversions that set tags of the selected files. What they set is one undo action. For the
 /// main thread alone.

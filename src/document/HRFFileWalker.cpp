@@ -2,6 +2,7 @@
 
 #include "kit/HRFCollation.h"
 #include "kit/HRFFileReferenceTable.h"
+#include "operations/HRFItemMove.h"
 #include "tags/HRFTagEngine.h"
 
 #include <QCoreApplication>
@@ -122,7 +123,9 @@ std::vector<Entry> Walk::sortedEntries(const HRFFileReference &folder)
         std::error_code ignored; // a link to nowhere is neither folder nor audio file
         const auto file =
             HRFFileReference::fromNativePath(QByteArray::fromStdString(iterator->path().string()));
-        const bool isFolder = iterator->is_directory(ignored) && !iterator->is_symlink(ignored);
+        const QByteArray name = QByteArray::fromStdString(iterator->path().filename().string());
+        const bool isFolder = iterator->is_directory(ignored) && !iterator->is_symlink(ignored)
+            && !HRFIsNameOfUnfinishedWork(name);
         const bool isAudio = iterator->is_regular_file(ignored) && isHandled(file);
         if (isFolder || isAudio)
             entries.push_back({file, isFolder, m_collator.sortKey(file.displayName())});

@@ -33,8 +33,9 @@ struct HRFFoundFiles
 namespace HRFFileWalker {
 
 /// Takes files as given, and walks folders recursively, hidden ones too, each folder's entries in
-/// natural order. Links to folders are not followed below a given folder, so that a walk always
-/// ends. A file that is reached twice, be it by another link, is taken once.
+/// natural order; folders that a killed move has left are passed over. Links to folders are not
+/// followed below a given folder, so that a walk always ends. A file that is reached twice, be it
+/// by another link, is taken once.
 ///
 /// May be called from any thread.
 /// @param isCancelled asked again and again; once true, what was found until then is returned

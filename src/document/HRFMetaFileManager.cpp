@@ -63,7 +63,7 @@ void HRFMetaFileManager::contextDidChange(const HRFContextChanges &changes)
     if (changes.isFromBackground)
         return; // the files say so already
     std::vector<HRFObjectChange> tags;
-    std::vector<HRFMetaFile *> renamed;
+    std::vector<Renaming> renamed;
     for (const HRFObjectChange &change : changes.updated) {
         if (change.object->entity().name == HRFMetaTags::entityName())
             tags.push_back(change);
@@ -72,7 +72,7 @@ void HRFMetaFileManager::contextDidChange(const HRFContextChanges &changes)
             continue;
         const auto file = info->parentMetaFile()->url();
         if (file && file->displayName() != info->fileName())
-            renamed.push_back(info->parentMetaFile());
+            renamed.push_back({info->parentMetaFile(), *file});
     }
     updateTags(tags);
     if (!m_isTakingBackRename)
@@ -102,23 +102,20 @@ void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
     m_writeProgress = progress;
 }
 
-void HRFMetaFileManager::renameFiles(const std::vector<HRFMetaFile *> &files)
+void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
 {
     QHash<HRFObjectID, QString> names;
     std::optional<HRFError> failure;
-    for (const HRFMetaFile *file : files) {
-        const auto source = file->url();
-        if (!source)
-            continue;
-        QString name = source->displayName();
+    for (const auto &[record, file] : renamings) {
+        QString name = file.displayName();
         if (!failure) {
-            const auto moved = rename(*source, file->fileInfo().fileName());
+            const auto moved = rename(file, record->fileInfo().fileName());
             if (moved)
                 name = moved->displayName();
             else
                 failure = moved.error();
         }
-        names.insert(file->objectID(), name);
+        names.insert(record->objectID(), name);
     }
     if (failure) {
         takeBackRename();
@@ -130,12 +127,24 @@ void HRFMetaFileManager::renameFiles(const std::vector<HRFMetaFile *> &files)
              .path = failure->path,
              .underlying = std::make_shared<HRFError>(*failure)});
     }
-    if (!names.isEmpty())
-        m_document.performBlockInBackgroundContext([names](HRFPrivateContext &context) {
-            for (auto entry = names.begin(); entry != names.end(); ++entry)
-                if (auto *file = context.object<HRFMetaFile>(entry.key()))
-                    file->fileInfo().setFileName(*entry);
-        });
+    setNames(names);
+}
+
+/// Puts right what records say; most of them have the names of their files already.
+void HRFMetaFileManager::setNames(const QHash<HRFObjectID, QString> &names)
+{
+    QHash<HRFObjectID, QString> wrong = names;
+    wrong.removeIf([this](const auto &entry) {
+        const auto *file = managedObjectContext()->object<HRFMetaFile>(entry.key());
+        return file && file->fileInfo().fileName() == entry.value();
+    });
+    if (wrong.isEmpty())
+        return;
+    m_document.performBlockInBackgroundContext([wrong](HRFPrivateContext &context) {
+        for (const auto &[objectID, name] : wrong.asKeyValueRange())
+            if (auto *file = context.object<HRFMetaFile>(objectID))
+                file->fileInfo().setFileName(name);
+    });
 }
 
 HRFResult<HRFFileReference> HRFMetaFileManager::rename(const HRFFileReference &file,

@@ -91,7 +91,14 @@ private:
     static void showInvalidFilesError(const std::vector<HRFFileReference> &files);
     void contextDidChange(const HRFContextChanges &changes);
     void updateTags(const std::vector<HRFObjectChange> &changes);
-    void renameFiles(const std::vector<HRFMetaFile *> &files);
+    /// A record, and where its file is, which has another name.
+    struct Renaming
+    {
+        HRFMetaFile *record;
+        HRFFileReference file;
+    };
+    void renameFiles(const std::vector<Renaming> &renamings);
+    void setNames(const QHash<HRFObjectID, QString> &names);
     [[nodiscard]] HRFResult<HRFFileReference> rename(const HRFFileReference &file,
                                                      const QString &name);
     void takeBackRename();

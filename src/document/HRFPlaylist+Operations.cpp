@@ -123,29 +123,38 @@ bool HRFPlaylist::enqueueOperationsForFiles(const std::vector<HRFMetaFile *> &fi
 
 void HRFPlaylist::runOperations(const Operations &operations, std::function<void()> whenDone)
 {
+    queueOperations(operations, {.whenDone = std::move(whenDone)});
+}
+
+void HRFPlaylist::queueOperations(const Operations &operations, const Afterwork &afterwork)
+{
     // Queued here and now, so that the batches of a list stay in their order.
     HRFOperationQueue &queue = HRFMetaFileManager::fileOperationQueue();
     queue.addBarrierBlock([progress = queue.progress(), total = operations.size()] {
         progress->setCompletedUnitCount(0);
         progress->setTotalUnitCount(qlonglong(total));
     });
-    const auto batch = std::make_shared<Batch>(Batch{operations, std::move(whenDone)});
+    const auto batch = std::make_shared<Batch>(Batch{operations, afterwork});
     auto slice = batch->operations.begin();
     do {
         const auto end = slice + std::min(sliceSize, batch->operations.end() - slice);
         ++batch->unfinishedSlices;
-        runSlice({slice, end}, batch);
+        runSlice({slice, end}, batch, end == batch->operations.end());
         slice = end;
     } while (slice != batch->operations.end());
 }
 
-void HRFPlaylist::runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch)
+void HRFPlaylist::runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch,
+                           bool isLast)
 {
     HRFOperationQueue &queue = HRFMetaFileManager::fileOperationQueue();
     queue.addOperations({operations.begin(), operations.end()}, false);
     const quint64 number = ++m_lastSlice;
     m_slices.emplace(number, Slice{operations, batch});
-    queue.addBarrierBlock([reference = m_weakSelf.reference(), number] {
+    const auto work = isLast ? batch->afterwork.inQueue : std::function<void()>();
+    queue.addBarrierBlock([reference = m_weakSelf.reference(), number, work] {
+        if (work)
+            HRFUserInteraction::presentFailures(work);
         HRFMainThread::run(
             [reference, number] {
                 if (HRFPlaylist *self = reference.get())
@@ -170,13 +179,16 @@ void HRFPlaylist::sliceDidEnd(const Slice &slice)
     const auto tellAll = [reference = m_weakSelf.reference(), batch = slice.batch] {
         if (--batch->unfinishedSlices > 0)
             return;
-        if (batch->whenDone)
-            batch->whenDone();
+        if (batch->afterwork.whenDone)
+            batch->afterwork.whenDone();
         if (HRFPlaylist *self = reference.get())
             Q_EMIT self->fileOperationsDidEnd(batch->operations);
     };
-    if (m_shouldClose)
+    const auto &refresh = slice.batch->afterwork.refresh;
+    if (m_shouldClose || (refresh && slice.batch->unfinishedSlices > 1))
         tellAll();
+    else if (refresh)
+        performBlockInBackgroundContext(refresh, false, tellAll);
     else
         handleCompletedFileWriteOperations(succeeded(slice.operations), tellAll);
 }

@@ -28,9 +28,8 @@ struct CommandRow
 
 /// The commands of a list.
 constexpr CommandRow commandRows[] = {
-    {"add:"_L1, Needs::Nothing},
-    {"clear:"_L1, Needs::ShownRecords},
-    {"remove:"_L1, Needs::Selection},
+    {"add:"_L1, Needs::Nothing},     {"clear:"_L1, Needs::ShownRecords},
+    {"move:"_L1, Needs::Selection},  {"remove:"_L1, Needs::Selection},
     {"strip:"_L1, Needs::Selection},
 };
 
@@ -70,6 +69,11 @@ std::vector<HRFMetaFile *> HRFPlaylist::arrangedFiles() const
 void HRFPlaylist::setSelectedFiles(const std::vector<HRFMetaFile *> &files)
 {
     m_fileController->setSelectedObjects(files);
+}
+
+HRFMetaFile *HRFPlaylist::fileWithID(HRFObjectID objectID) const
+{
+    return managedObjectContext().object<HRFMetaFile>(objectID);
 }
 
 void HRFPlaylist::setUndoActionName(const QString &name)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "conversions/HRFConversionHost.h"
+#include "conversions/HRFFileOperationCC.h"
+#include "conversions/HRFFileOperationHost.h"
 #include "document/HRFArrayController.h"
 #include "document/HRFMetaFileManager.h"
 #include "document/HRFPlaylistWindow.h"
@@ -27,7 +28,7 @@ enum class HRFProgressDisplayMode {
 /// and the commands on them. It is never saved; its store goes when the program ends.
 ///
 /// All members are for the main thread, but performBlockInBackgroundContext.
-class HRFPlaylist : public QObject, public HRFConversionHost
+class HRFPlaylist : public QObject, public HRFFileOperationHost
 {
     Q_OBJECT
 public:
@@ -42,9 +43,11 @@ public:
     HRFMetaFileManager &fileManager() { return *m_fileManager; }
     HRFMainContext &managedObjectContext() const { return *m_fileManager->managedObjectContext(); }
     HRFArrayController &fileController() { return *m_fileController; }
+    HRFFileOperationCC &fileOperationCC() { return m_fileOperationCC; }
     std::vector<HRFMetaFile *> selectedFiles() const override;
     std::vector<HRFMetaFile *> arrangedFiles() const override;
     void setSelectedFiles(const std::vector<HRFMetaFile *> &files) override;
+    HRFMetaFile *fileWithID(HRFObjectID objectID) const override;
     void setUndoActionName(const QString &name) override;
     const QUndoStack &undoManager() const { return managedObjectContext().undoManager(); }
     void undo() { managedObjectContext().undo(); }
@@ -70,6 +73,11 @@ public:
     void strip();
     void stripTags();
 
+    /// Lets the user choose a folder to move the selected files to.
+    void move();
+    void moveSelectedFilesToFolder(const HRFFileReference &folder);
+    void editPattern() override;
+
     /// Whether a command ("strip:") can be carried out now.
     bool validateUserInterfaceItem(const QString &command) const;
 
@@ -93,6 +101,7 @@ public:
                                    HRFProgressDisplayMode mode, const OperationMaker &block);
     /// Queues operations, and refreshes the records of those that succeed.
     void runOperations(const Operations &operations, std::function<void()> whenDone = {});
+    void queueOperations(const Operations &operations, const Afterwork &afterwork) override;
     /// The progresses of the operations that have not ended.
     std::set<std::shared_ptr<HRFProgress>> pendingProgresses() const;
     /// Refreshes the records of operations that have succeeded.
@@ -110,7 +119,7 @@ private:
     struct Batch
     {
         Operations operations;
-        std::function<void()> whenDone;
+        Afterwork afterwork;
         std::size_t unfinishedSlices = 0; ///< those whose records are not refreshed yet
     };
     /// Operations of a batch whose records are refreshed together.
@@ -119,7 +128,7 @@ private:
         Operations operations;
         std::shared_ptr<Batch> batch;
     };
-    void runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch);
+    void runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch, bool isLast);
     void sliceDidEnd(const Slice &slice);
     static void refresh(HRFPrivateContext &context, const Operations &operations,
                         const HRFWeakReference<HRFPlaylist> &reference);
@@ -128,6 +137,7 @@ private:
     HRFDocumentController &m_documents;
     std::unique_ptr<HRFMetaFileManager> m_fileManager;
     std::unique_ptr<HRFArrayController> m_fileController;
+    HRFFileOperationCC m_fileOperationCC{*this};
     HRFPlaylistWindow *m_window = nullptr;
     bool m_shouldClose = false;
     std::map<quint64, Slice> m_slices; ///< those that have not ended, by number

@@ -14,6 +14,10 @@ public:
     virtual bool hasAttachedSheet() const = 0;
     /// Lets the user choose files and folders of the given types (lower-case extensions).
     virtual void runAddPanel(const QStringList &fileTypes) = 0;
+    /// Lets the user choose the folder for HRFPlaylist::moveSelectedFilesToFolder.
+    virtual void runMovePanel() { }
+    /// Shows the window in which patterns are edited.
+    virtual void showConvertWindow() { }
     virtual void focusFilterFieldIfNeeded() = 0;
     virtual void clearFilterField() = 0;
     virtual void focusInitialControl() = 0;

@@ -135,6 +135,16 @@ public:
         const auto found = m_files.constFind(last);
         return found == m_files.cend() || found->file != file ? std::nullopt : std::optional(last);
     }
+    /// Lets a reference lead to a file that has taken over from its own.
+    void hand(const Reference &reference, const File &file, const Place &place)
+    {
+        const std::lock_guard guard(m_lock);
+        const auto found = m_files.find(reference);
+        if (found == m_files.end() || found->file == file)
+            return;
+        *found = {withSharedFolder(place), file};
+        m_lastReferences.insert(file.identity, reference);
+    }
     bool isSuccessor(const Reference &reference, const File &file) const
     {
         const std::lock_guard guard(m_lock);
@@ -390,6 +400,16 @@ void HRFFileReferenceTable::preferPath(const HRFFileReference &file)
 {
     if (const auto present = fileAt(file.nativePath()))
         Table::shared().put(*present, Place::of(absolutePath(file.nativePath())));
+}
+
+void HRFFileReferenceTable::fileDidBecome(const QString &referenceURL,
+                                          const HRFFileReference &file)
+{
+    const std::optional<File> present = fileAt(file.nativePath());
+    const std::optional<Reference> reference =
+        referenceURL.startsWith(referencePrefix) ? referenceFromURL(referenceURL) : std::nullopt;
+    if (present && reference)
+        Table::shared().hand(*reference, *present, Place::of(absolutePath(file.nativePath())));
 }
 
 void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFFileReference &to)

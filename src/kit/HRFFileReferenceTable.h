@@ -34,6 +34,10 @@ std::optional<QString> lastKnownFolderForURL(const QString &url);
 /// Lets the reference of a file that has several paths lead to this one from now on.
 void preferPath(const HRFFileReference &file);
 
+/// To be told when this program has moved a file to another file system, where it is another one:
+/// it keeps its reference.
+void fileDidBecome(const QString &referenceURL, const HRFFileReference &file);
+
 /// To be told when this program has moved a file.
 void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
 

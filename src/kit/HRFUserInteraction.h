@@ -43,6 +43,8 @@ struct HRFAlert
     /// Title of the check box; empty where there is none.
     QString suppressionTitle{};
     bool isCritical = false;
+    /// Nothing has failed; the answer says how to go on.
+    bool isQuestion = false;
 };
 
 struct HRFAlertAnswer

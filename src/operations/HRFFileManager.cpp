@@ -38,18 +38,6 @@ int runOnce(const HRFTransfer &transfer, bool replaces)
     return run(transfer.source.nativePath(), transfer.destination.nativePath(), replaces);
 }
 
-/// The path with a number behind the base name: "a 2.mp3".
-HRFFileReference numbered(const HRFFileReference &file, int number)
-{
-    const QByteArray &path = file.nativePath();
-    const qsizetype name = path.lastIndexOf('/') + 1;
-    const qsizetype dot = path.lastIndexOf('.');
-    const qsizetype baseEnd = dot > name ? dot : path.size();
-    return HRFFileReference::fromNativePath(path.first(baseEnd) + ' ' + QByteArray::number(number)
-                                            + '.'
-                                            + path.sliced(std::min(baseEnd + 1, path.size())));
-}
-
 /// 0, or the failure that made it necessary.
 int makeWritable(int failure, const HRFFileReference &folder)
 {
@@ -129,11 +117,10 @@ HRFFileManager::attemptFixingFileExistsError(const HRFError &error, HRFFileExist
 
 HRFResult<HRFFileReference> HRFFileManager::keepBoth(const HRFTransfer &transfer)
 {
-    constexpr int lastNumber = 999;
     for (int number = 2;; ++number) {
-        const auto place = numbered(transfer.destination, number);
+        const auto place = numberedURL(transfer.destination, number);
         const auto done = attempt({transfer.kind, transfer.source, place}, false);
-        if (done || !HRFIsFileExistsError(done.error()) || number == lastNumber)
+        if (done || !HRFIsFileExistsError(done.error()) || number == HRFLastNumberOfName)
             return done;
     }
 }
@@ -201,9 +188,8 @@ HRFFileManager::userRequestedRecoveryForFileExistsError(const HRFFileReference &
 {
     auto recovery = HRFFileExistsRecovery::Stop;
     const auto decide = [&] {
-        recovery = m_appliedToAllRecovery != HRFFileExistsRecovery::Stop
-            ? m_appliedToAllRecovery
-            : ask(destination, showSuppression);
+        recovery =
+            m_appliedToAllRecovery ? *m_appliedToAllRecovery : ask(destination, showSuppression);
     };
     HRFMainThread::run(decide, HRFMainThread::Wait::Yes);
     return recovery;
@@ -218,6 +204,7 @@ HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, b
                         .arg(destination.displayName().replace(u':', u'/'));
     alert.informativeText = tr("Do you want to replace it with the one you’re moving?");
     alert.icon = destination;
+    alert.isQuestion = true;
     alert.buttons = {
         {.title = tr("Keep Both")},
         {.title = tr("Replace"), .isDestructive = true},
@@ -228,7 +215,7 @@ HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, b
     HRFFileExistsRecovery recovery = recoveries.at(answer.button);
     if (recovery == HRFFileExistsRecovery::Stop && answer.isAlternate)
         recovery = HRFFileExistsRecovery::Skip;
-    if (answer.isSuppressed)
+    if (answer.isSuppressed && recovery != HRFFileExistsRecovery::Stop)
         m_appliedToAllRecovery = recovery;
     return recovery;
 }

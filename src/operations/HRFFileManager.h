@@ -2,6 +2,8 @@
 
 #include "operations/HRFTransfer.h"
 
+#include <optional>
+
 /// What to do about an item that is in the way.
 enum class HRFFileExistsRecovery {
     Stop = 0, ///< fail, and cancel the whole batch
@@ -27,7 +29,7 @@ public:
     void setCreateMissingDirectories(bool creates) { m_createMissingDirectories = creates; }
     /// What moveItemAtURL and copyItemAtURL themselves do about an item that is in the way.
     void setFileExistsRecovery(HRFFileExistsRecovery recovery) { m_fileExistsRecovery = recovery; }
-    /// The answer to all questions about items that are in the way; with Stop, the user is asked.
+    /// The answer to all questions about items that are in the way; the user is not asked then.
     void setAppliedToAllRecovery(HRFFileExistsRecovery answer) { m_appliedToAllRecovery = answer; }
 
     /// Nothing is overwritten unless fileExistsRecovery says so.
@@ -67,5 +69,5 @@ private:
     bool m_fixPermissions = true;
     bool m_createMissingDirectories = false;
     HRFFileExistsRecovery m_fileExistsRecovery = HRFFileExistsRecovery::Stop;
-    HRFFileExistsRecovery m_appliedToAllRecovery = HRFFileExistsRecovery::Stop; ///< main thread
+    std::optional<HRFFileExistsRecovery> m_appliedToAllRecovery; ///< for the main thread
 };

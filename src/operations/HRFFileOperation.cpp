@@ -13,7 +13,9 @@ QString tr(const char *text)
     return QCoreApplication::translate("HRFFileOperation", text);
 }
 
-HRFError notFoundError(const QString &fileName)
+} // namespace
+
+HRFError HRFFileNotFoundError(const QString &fileName)
 {
     HRFError error;
     error.domain = QString::fromLatin1(HRFFileErrorDomain);
@@ -22,8 +24,6 @@ HRFError notFoundError(const QString &fileName)
     error.recoverySuggestion = tr("It was deleted, replaced, or moved to another place.");
     return error;
 }
-
-} // namespace
 
 void HRFFileOperation::setFile(const HRFMetaFile &file)
 {
@@ -110,7 +110,7 @@ HRFResult<HRFFileReference> HRFFileOperation::findFile()
     const std::lock_guard lock(m_fieldsMutex);
     m_fileURL = found;
     if (found.isNull())
-        return std::unexpected(notFoundError(m_fileName));
+        return std::unexpected(HRFFileNotFoundError(m_fileName));
     return found;
 }
 

@@ -11,6 +11,9 @@
 
 class HRFMetaFile;
 
+/// What is wrong when the file of a record is not there any more.
+HRFError HRFFileNotFoundError(const QString &fileName);
+
 /// Work on one file of a list.
 class HRFFileOperation : public HRFOperation
 {

@@ -59,6 +59,25 @@ HRFFileReference parentURL(const HRFFileReference &file)
     return HRFFileReference::fromNativePath(path.first(std::max<qsizetype>(slash, 1)));
 }
 
+HRFFileReference numberedURL(const HRFFileReference &file, int number)
+{
+    const QByteArray &path = file.nativePath();
+    const qsizetype name = path.lastIndexOf('/') + 1;
+    const qsizetype dot = path.lastIndexOf('.');
+    const qsizetype baseEnd = dot > name ? dot : path.size();
+    return HRFFileReference::fromNativePath(path.first(baseEnd) + ' ' + QByteArray::number(number)
+                                            + '.'
+                                            + path.sliced(std::min(baseEnd + 1, path.size())));
+}
+
+/// Paths that are not UTF-8 must not look the same because of what is shown for their bytes.
+bool differInCaseAtMost(const HRFFileReference &one, const HRFFileReference &other)
+{
+    const bool isText = one.isValidUtf8() && other.isValidUtf8();
+    return isText ? one.displayPath().compare(other.displayPath(), Qt::CaseInsensitive) == 0
+                  : one.nativePath().compare(other.nativePath(), Qt::CaseInsensitive) == 0;
+}
+
 HRFFileReference firstExistingAncestorURL(const HRFFileReference &file)
 {
     HRFFileReference place = file;

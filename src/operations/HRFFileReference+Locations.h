@@ -5,6 +5,15 @@
 /// The folder that an item is in, by its path alone; "." where the path is a mere name.
 HRFFileReference parentURL(const HRFFileReference &file);
 
+/// The path with a number behind the base name: "a 2.mp3". Without an extension the name ends in a
+/// dot.
+HRFFileReference numberedURL(const HRFFileReference &file, int number);
+/// As far as numbers go that make names unique; they begin with 2.
+inline constexpr int HRFLastNumberOfName = 999;
+
+/// Whether two paths are the same but for the case of letters.
+bool differInCaseAtMost(const HRFFileReference &one, const HRFFileReference &other);
+
 /// The nearest folder that exists, from the given location upwards; where none does, the last
 /// location that was looked at.
 HRFFileReference firstExistingAncestorURL(const HRFFileReference &file);

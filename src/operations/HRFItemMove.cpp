@@ -19,6 +19,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr char unfinishedPrefix[] = ".lirra-";
+constexpr char unfinishedPlaceholder[] = "XXXXXX";
+
 int removeItem(const QByteArray &path)
 {
     std::error_code failure;
@@ -35,7 +38,8 @@ QByteArray folderOf(const QByteArray &path)
 class TemporaryFolder
 {
 public:
-    explicit TemporaryFolder(const QByteArray &item) : m_path(folderOf(item) + "/.lirra-XXXXXX")
+    explicit TemporaryFolder(const QByteArray &item)
+        : m_path(folderOf(item) + '/' + unfinishedPrefix + unfinishedPlaceholder)
     {
         m_failure = ::mkdtemp(m_path.data()) != nullptr ? 0 : errno;
     }
@@ -150,6 +154,13 @@ bool isSameEntry(const QByteArray &one, const QByteArray &other)
 }
 
 } // namespace
+
+bool HRFIsNameOfUnfinishedWork(const QByteArray &name)
+{
+    return name.startsWith(unfinishedPrefix)
+        && name.size()
+        == QByteArrayView(unfinishedPrefix).size() + QByteArrayView(unfinishedPlaceholder).size();
+}
 
 int HRFCopyItemIntoPlace(const QByteArray &from, const QByteArray &to, bool replaces)
 {

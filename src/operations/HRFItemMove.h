@@ -2,6 +2,10 @@
 
 #include <QByteArray>
 
+/// Whether a folder with this name, whatever its path, may be unfinished work that a killed program
+/// has left behind.
+bool HRFIsNameOfUnfinishedWork(const QByteArray &name);
+
 /// Both work on files, symbolic links (the link is the item, not what it leads to) and folders.
 /// Whatever happens in the middle, nothing but a whole item ever stands at the new path, and the
 /// old one stays until then. What another program may find of unfinished work is a hidden folder

@@ -1,20 +1,10 @@
 #include "operations/HRFMoveOperation.h"
 
 #include "kit/HRFAssert.h"
+#include "kit/HRFFileReferenceTable.h"
 #include "kit/HRFMainThread.h"
 #include "kit/HRFUserInteraction.h"
-
-namespace {
-
-/// Paths that are not UTF-8 must not look the same because of what is shown for their bytes.
-bool differInCaseAtMost(const HRFFileReference &one, const HRFFileReference &other)
-{
-    const bool isText = one.isValidUtf8() && other.isValidUtf8();
-    return isText ? one.displayPath().compare(other.displayPath(), Qt::CaseInsensitive) == 0
-                  : one.nativePath().compare(other.nativePath(), Qt::CaseInsensitive) == 0;
-}
-
-} // namespace
+#include "operations/HRFFileReference+Locations.h"
 
 HRFFileReference HRFMoveOperation::srcURL() const
 {
@@ -88,6 +78,9 @@ void HRFMoveOperation::finish(const HRFResult<HRFFileReference> &result)
         HRFMainThread::run(present, HRFMainThread::Wait::Yes);
         return;
     }
+    // Those that wait to write the file know it by the reference that it had.
+    if (!m_isCopyOperation)
+        HRFFileReferenceTable::fileDidBecome(fileKey(), *result);
     setDstURL(*result);
     setSucceeded(true);
     if (const std::shared_ptr<HRFProgress> batch = progress())

@@ -225,6 +225,7 @@ TEST(HRFContainedSubPathTest, StaysBelowTheBase)
         EXPECT_TRUE(result || !result.error().description.isEmpty());
     }
     EXPECT_FALSE(HRFCheckFileName(u"a/b"_s));
+    EXPECT_FALSE(HRFCheckFileName(u".."_s));
 }
 
 } // namespace

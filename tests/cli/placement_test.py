@@ -1,0 +1,165 @@
+"""Names and folders from tags: what is done is what the dry run says, line by line."""
+
+import json
+import os
+import pty
+import shutil
+import subprocess
+import unittest
+
+from lirra_program import PROGRAM, ProgramTest, audio, frame, id3v2
+
+STOP = "No further files are changed"
+DOT = "begin with a dot"
+EXISTS = "already exists"
+
+
+def song(title):
+    return id3v2(frame("TIT2", b"\3" + title.encode())) + audio()
+
+
+class PlacementTest(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.root = self.home / "music"
+        self.titles = {"1.mp3": "One", "2.mp3": "Two/2", "3.mp3": "One", "4.mp3": ".four",
+                       "5.mp3": "x" * 252, "6.mp3": ""}
+
+    def make(self):
+        shutil.rmtree(self.root, ignore_errors=True)
+        for name, title in self.titles.items():
+            self.file(self.root / name, song(title) if title else audio())
+
+    def contents(self):
+        return {str(path.relative_to(self.root)): (path.read_bytes(), path.stat().st_mtime_ns)
+                for path in self.root.rglob("*") if path.is_file()}
+
+    def place(self, *arguments):
+        """The lines of a run without the folder, exit status and standard error. The dry runs must
+        say the same before, and change nothing."""
+        self.make()
+        before = self.contents()
+        dry = self.run_program("--dry-run", *arguments, self.root)
+        dry_json = self.run_program("--dry-run", *arguments, "--json", self.root)
+        self.assertEqual(self.contents(), before)
+        real = self.run_program(*arguments, self.root)
+        self.assertEqual((dry.stdout, dry.returncode), (real.stdout, real.returncode))
+        told = [json.loads(line) for line in dry_json.stdout.splitlines()]
+        self.assertEqual([f"{file['path']} -> {file['newPath']}"
+                          for file in told if "newPath" in file], dry.stdout.splitlines())
+        refused = [file["path"] for file in told if "error" in file]
+        for text in (dry.stderr, real.stderr):
+            self.assertLessEqual(set(refused), {line.split(": ")[1] for line in text.splitlines()})
+        after = self.contents()
+        self.assertEqual(sorted(after.values()), sorted(before.values()))
+        lines = real.stdout.replace(f"{self.root}/", "").splitlines()
+        for line in lines:
+            self.assertEqual(after[line.split(" -> ")[1]], before[line.split(" -> ")[0]])
+        return lines, real.returncode, real.stderr
+
+    def test_answers(self):
+        first = ["1.mp3 -> One.mp3", "2.mp3 -> Two:2.mp3"]
+        both = "3.mp3 -> One 2.mp3"
+        dots = {"remove": "4.mp3 -> four.mp3", "continue": "4.mp3 -> .four.mp3"}
+        unknown = "6.mp3 -> Unknown Title.mp3"
+        long = "The name is too long"
+        for arguments, expected, reasons in (
+                ([], first, [EXISTS, STOP]),
+                (["--on-conflict=skip"], first, [EXISTS, DOT, STOP]),
+                (["--on-conflict=keep-both", "--dot-names=remove"],
+                 [*first, both, dots["remove"], unknown], [long]),
+                (["--on-conflict=skip", "--dot-names=continue", "--fallback=skip"],
+                 [*first, dots["continue"]], [EXISTS, long, "makes no name"])):
+            with self.subTest(arguments):
+                lines, status, error = self.place(*arguments[:2], "rename", *arguments[2:],
+                                                  "--pattern=%title%")
+                self.assertEqual((lines, status), (expected, 1))
+                for reason, line in zip(reasons, error.splitlines(), strict=True):
+                    self.assertIn(reason, line)
+
+    def test_replaced_files_are_gone(self):
+        self.titles = {"1.mp3": "2", "2.mp3": "3"}
+        self.make()
+        dry = self.run_program("--dry-run", "--on-conflict=replace", "rename", "--pattern=%title%",
+                               self.root)
+        real = self.run_program("--on-conflict=replace", "rename", "--pattern=%title%", self.root)
+        self.assertEqual((dry.stdout, dry.returncode), (real.stdout, 1))
+        self.assertIn("could not be found", real.stderr)
+        self.assertEqual(self.contents()["2.mp3"][0], song("2"))
+        self.assertEqual(len(self.contents()), 1)
+
+    def test_moves(self):
+        self.titles = {"a/1.mp3": "One", "b/2.mp3": "Two", "b/1.mp3": "One"}
+        base, target = f"--base={self.root}/out", f"--to={self.root}/out"
+        for arguments, expected, status in (
+                (["move", "--pattern=%title%"],
+                 ["a/1.mp3 -> a/One/1.mp3", "b/1.mp3 -> b/One/1.mp3", "b/2.mp3 -> b/Two/2.mp3"], 0),
+                (["--on-conflict=keep-both", "move", "--pattern=%title%/.", base],
+                 ["a/1.mp3 -> out/One/1.mp3", "b/1.mp3 -> out/One/1 2.mp3",
+                  "b/2.mp3 -> out/Two/2.mp3"], 0),
+                (["--on-conflict=skip", "move", target],
+                 ["a/1.mp3 -> out/1.mp3", "b/2.mp3 -> out/2.mp3"], 1),
+                (["move", "--pattern=../x"], [], 1),
+                (["move", "--pattern=.%title%"], [], 1)):
+            with self.subTest(arguments):
+                self.assertEqual(self.place(*arguments)[:2], (expected, status))
+
+    def test_copies_and_what_is_around(self):
+        self.titles = {"a/1.mp3": "One"}
+        for arguments, expected in ((["--copy"], {"a/1.mp3", "a/cover.jpg", "out/1.mp3"}),
+                                    (["--with-others", "--remove-empty"],
+                                     {"out/1.mp3", "out/cover.jpg"})):
+            self.make()
+            self.file(self.root / "a/cover.jpg", b"cover")
+            result = self.run_program("move", *arguments, f"--to={self.root}/out", self.root)
+            self.assertEqual((result.returncode, result.stderr), (0, ""))
+            self.assertEqual(set(self.contents()), expected)
+        self.assertTrue((self.home / ".local/share/Trash/files/a").is_dir())
+
+    def test_questions_on_a_terminal(self):
+        self.titles = {f"{name}/x.mp3": "" for name in "abcd"}
+        self.make()
+        user, terminal = pty.openpty()
+        with subprocess.Popen([PROGRAM, "move", f"--to={self.root}/out", self.root],
+                              env=self.environment(), stdin=terminal, stdout=subprocess.PIPE,
+                              stderr=terminal) as program:
+            os.close(terminal)
+            shown = b""
+            for answer in (b"k\n", b"i all\n"):
+                while not shown.endswith(b"? "):
+                    shown += os.read(user, 1000)
+                os.write(user, answer)
+                shown = b""
+            output = program.stdout.read().decode()
+        os.close(user)
+        self.assertEqual((program.returncode, output.count(" -> ")), (1, 2))
+        self.assertEqual(set(self.contents()),
+                         {"out/x.mp3", "out/x 2.mp3", "c/x.mp3", "d/x.mp3"})
+
+    @unittest.skipUnless(os.geteuid() == 0, "A folder must belong to somebody else")
+    def test_a_name_that_cannot_be_given_keeps_no_other_from_its_own(self):
+        self.titles = {"a/1.mp3": "a", "b/2.mp3": "b", "b/3.mp3": "c", "c/4.mp3": "d"}
+        self.make()
+        for folder in (self.folder, self.home, self.root / "b"):
+            folder.chmod(0o755)
+        for path in (self.home, *self.root.glob("[ac]"), *self.root.rglob("*.mp3")):
+            os.chown(path, 65534, 65534)
+        program = shutil.copy(PROGRAM, self.folder)  # the build folder may be closed to others
+        result = self.run_command(["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups",
+                                   program, "rename", "--pattern=%title%", self.root])
+        self.assertEqual((result.returncode, result.stdout.count(" -> ")), (1, 2))
+        self.assertEqual(result.stderr.count("Permission denied\n"), 2)
+        self.assertEqual(set(self.contents()), {"a/a.mp3", "b/2.mp3", "b/3.mp3", "c/d.mp3"})
+
+    def test_wrong_usage(self):
+        for arguments in (["rename"], ["move"], ["move", "--to=x", "--pattern=y"],
+                          ["move", "--to="], ["rename", "--pattern=%titel%"]):
+            with self.subTest(arguments):
+                self.make()
+                before = self.contents()
+                result = self.run_program(*arguments, self.root)
+                self.assertEqual((result.returncode, self.contents()), (2, before))
+
+
+if __name__ == "__main__":
+    unittest.main()
