@@ -1,0 +1,166 @@
+#include "app/HRFAlertDialog.h"
+
+#include "app/HRFIcons.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileIconProvider>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QDialogButtonBox::ButtonRole roleOf(const HRFAlertButton &button)
+{
+    switch (button.role) {
+    case HRFAnswerRole::Cancel:
+        return QDialogButtonBox::RejectRole;
+    case HRFAnswerRole::Other:
+        return QDialogButtonBox::ActionRole;
+    default:
+        return QDialogButtonBox::AcceptRole;
+    }
+}
+
+/// The one icon of its kind in an alert about a file; otherwise the program's own sign.
+QIcon iconOf(const HRFAlert &alert)
+{
+    if (!alert.icon.isNull() && !alert.isCritical) {
+        const QIcon icon = QFileIconProvider().icon(QFileInfo(alert.icon.displayPath()));
+        if (!icon.isNull())
+            return icon;
+    }
+    return HRFIcons::named(alert.isCritical ? u"warning"_s : u"question"_s);
+}
+
+} // namespace
+
+HRFAlertDialog::HRFAlertDialog(const HRFAlert &alert, QWidget *parent)
+    : QDialog(parent), m_alert(alert)
+{
+    setObjectName(u"alert"_s);
+    setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+    setWindowTitle(alert.title.isEmpty() ? QApplication::applicationDisplayName() : alert.title);
+    setAccessibleName(alert.message);
+    makeWidgets();
+    qApp->installEventFilter(this); // for the Alt key, whatever has the focus
+}
+
+std::optional<std::size_t> HRFAlertDialog::buttonForEscape(const HRFAlert &alert)
+{
+    for (const HRFAnswerRole role : {HRFAnswerRole::Cancel, HRFAnswerRole::Continue}) {
+        const auto found = std::ranges::find(alert.buttons, role, &HRFAlertButton::role);
+        if (found != alert.buttons.end())
+            return std::size_t(found - alert.buttons.begin());
+    }
+    return alert.buttons.size() == 1 ? std::optional<std::size_t>(0) : std::nullopt;
+}
+
+void HRFAlertDialog::makeWidgets()
+{
+    constexpr int margin = 18;
+    constexpr int space = 14;
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setHorizontalSpacing(space);
+    layout->setVerticalSpacing(space);
+    layout->addWidget(makeIcon(), 0, 0, Qt::AlignTop);
+    layout->addWidget(makeTexts(), 0, 1);
+    layout->addWidget(makeButtons(), 1, 0, 1, 2);
+    layout->setColumnStretch(1, 1);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget *HRFAlertDialog::makeIcon()
+{
+    constexpr int size = 44;
+    auto *icon = new QLabel(this);
+    icon->setPixmap(iconOf(m_alert).pixmap(size));
+    return icon;
+}
+
+QWidget *HRFAlertDialog::makeTexts()
+{
+    constexpr int width = 380;
+    auto *texts = new QWidget(this);
+    auto *layout = new QVBoxLayout(texts);
+    layout->setContentsMargins({});
+    const auto addText = [&](const QString &text, const QString &name, bool isBold) {
+        auto *label = new QLabel(text, texts);
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(width);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        QFont font = label->font();
+        font.setBold(isBold);
+        label->setFont(font);
+        layout->addWidget(label);
+    };
+    addText(m_alert.message, u"message"_s, true);
+    if (!m_alert.informativeText.isEmpty())
+        addText(m_alert.informativeText, u"informativeText"_s, false);
+    if (!m_alert.suppressionTitle.isEmpty()) {
+        m_suppression = new QCheckBox(m_alert.suppressionTitle, texts);
+        m_suppression->setObjectName(u"suppression"_s);
+        layout->addWidget(m_suppression);
+    }
+    return texts;
+}
+
+QWidget *HRFAlertDialog::makeButtons()
+{
+    auto *box = new QDialogButtonBox(this);
+    for (std::size_t i = 0; i < m_alert.buttons.size(); ++i) {
+        QPushButton *button = box->addButton(m_alert.buttons[i].title, roleOf(m_alert.buttons[i]));
+        button->setIcon({});
+        button->setAutoDefault(true);
+        connect(button, &QPushButton::clicked, this, [this, i] { choose(i); });
+        m_buttons.push_back(button);
+    }
+    if (m_alert.defaultButton < m_buttons.size()) {
+        m_buttons[m_alert.defaultButton]->setDefault(true);
+        m_buttons[m_alert.defaultButton]->setFocus();
+    }
+    return box;
+}
+
+void HRFAlertDialog::choose(std::size_t button)
+{
+    const bool hasAlternate = !m_alert.buttons[button].alternateTitle.isEmpty();
+    m_answer = {.button = button,
+                .isSuppressed = m_suppression && m_suppression->isChecked(),
+                .isAlternate =
+                    hasAlternate && QApplication::keyboardModifiers().testFlag(Qt::AltModifier)};
+    done(Accepted);
+}
+
+void HRFAlertDialog::reject()
+{
+    if (const auto button = buttonForEscape(m_alert))
+        choose(*button);
+}
+
+bool HRFAlertDialog::eventFilter(QObject *object, QEvent *event)
+{
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if ((isPress || event->type() == QEvent::KeyRelease)
+        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
+        showAlternateTitles(isPress);
+    return QDialog::eventFilter(object, event);
+}
+
+void HRFAlertDialog::showAlternateTitles(bool areAlternate)
+{
+    for (std::size_t i = 0; i < m_buttons.size(); ++i)
+        if (const HRFAlertButton &button = m_alert.buttons[i]; !button.alternateTitle.isEmpty())
+            m_buttons[i]->setText(areAlternate ? button.alternateTitle : button.title);
+}

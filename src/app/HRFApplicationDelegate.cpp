@@ -1,0 +1,61 @@
+#include "app/HRFApplicationDelegate.h"
+
+#include "app/HRFListWindow.h"
+#include "document/HRFPlaylist.h"
+#include "kit/HRFAssert.h"
+
+#include <algorithm>
+
+HRFApplicationDelegate::HRFApplicationDelegate() = default;
+
+HRFApplicationDelegate::~HRFApplicationDelegate()
+{
+    m_windows.clear(); // before their lists
+}
+
+HRFListWindow &HRFApplicationDelegate::newList()
+{
+    HRFPlaylist &list = m_documents.newDocument();
+    m_windows.push_back(std::make_unique<HRFListWindow>(list, *this));
+    list.setWindow(m_windows.back().get());
+    m_documents.setCurrentDocument(&list);
+    m_windows.back()->showWindows();
+    return *m_windows.back();
+}
+
+HRFListWindow &HRFApplicationDelegate::currentWindow()
+{
+    const auto found = std::ranges::find_if(m_windows, [this](const auto &window) {
+        return &window->document() == m_documents.currentDocument();
+    });
+    HRFRequire(found != m_windows.end(), "currentWindow");
+    return **found;
+}
+
+void HRFApplicationDelegate::open(const std::vector<HRFFileReference> &paths)
+{
+    HRFListWindow &window = currentWindow();
+    window.showWindows();
+    if (!paths.empty())
+        window.document().importFilesAtPaths(paths);
+}
+
+void HRFApplicationDelegate::close(HRFListWindow &window)
+{
+    if (m_windows.size() < 2)
+        return quit();
+    const auto found =
+        std::ranges::find(m_windows, &window, &std::unique_ptr<HRFListWindow>::get);
+    HRFRequire(found != m_windows.end(), "window");
+    HRFPlaylist &list = window.document();
+    list.setWindow(nullptr);
+    window.hide();
+    found->release()->deleteLater(); // goes before the list, which is let go of next
+    m_windows.erase(found);
+    list.close();
+}
+
+void HRFApplicationDelegate::quit()
+{
+    m_documents.terminate([this] { Q_EMIT didTerminate(); });
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "document/HRFDocumentController.h"
+#include "kit/HRFFileReference.h"
+
+#include <memory>
+#include <vector>
+
+class HRFListWindow;
+
+/// The desktop application: its documents and their windows, from the first to the last.
+class HRFApplicationDelegate : public QObject
+{
+    Q_OBJECT
+public:
+    HRFApplicationDelegate();
+    ~HRFApplicationDelegate() override;
+
+    HRFDocumentController &documents() { return m_documents; }
+    HRFListWindow &newList();
+    /// The window of the list that the user works with.
+    HRFListWindow &currentWindow();
+    /// Adds files and folders to the current list, and brings it to the front.
+    void open(const std::vector<HRFFileReference> &paths);
+
+    /// Closes a list's window, or ends the program when it is the last one.
+    void close(HRFListWindow &window);
+    /// Ends the program as soon as no work on files is pending.
+    void quit();
+
+Q_SIGNALS:
+    /// Nothing stands in the way of the end.
+    void didTerminate();
+
+private:
+    HRFDocumentController m_documents;
+    std::vector<std::unique_ptr<HRFListWindow>> m_windows;
+};

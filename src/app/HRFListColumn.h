@@ -1,0 +1,43 @@
+#pragma once
+
+#include "document/HRFRecordColumn.h"
+
+#include <optional>
+#include <vector>
+
+/// How a column shows its values and lets them be edited.
+enum class HRFListColumnKind { Thumbnail, Text, Number, Date, CheckBox, Rating };
+
+/// One column that a list can have: the picture of a file, or an attribute of the catalogue.
+struct HRFListColumn
+{
+    QString name; ///< of the attribute, or "artwork"; the column's name in settings
+    QString title;
+    HRFListColumnKind kind;
+    std::optional<HRFRecordColumn> values; ///< nothing for the picture
+
+    const HRFAttributeDescription *attribute() const;
+    bool isEditable() const;
+    /// A number of something: it stands on the right.
+    bool isQuantity() const;
+
+    /// The value as one line of text, whatever the column's cells look like.
+    QString text(const HRFMetaFile &file) const;
+};
+
+/// A titled part of the catalogue.
+struct HRFListColumnGroup
+{
+    QString title;
+    std::vector<int> columns;
+};
+
+/// All columns of a list, numbered in the order of the catalogue. They do not change.
+namespace HRFListColumns {
+
+const std::vector<HRFListColumn> &all();
+/// -1 when there is none.
+int indexOf(const QString &name);
+const std::vector<HRFListColumnGroup> &groups();
+
+} // namespace HRFListColumns

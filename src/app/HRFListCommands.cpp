@@ -1,0 +1,225 @@
+#include "app/HRFListCommands.h"
+
+#include "app/HRFIcons.h"
+#include "app/HRFListHeader.h"
+#include "app/HRFListWindow.h"
+#include "document/HRFDocumentController.h"
+#include "document/HRFPlaylist.h"
+#include "kit/HRFAssert.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct CommandRow
+{
+    const char *menu;
+    QLatin1StringView name; ///< the action's object name; nothing for a separator
+    const char *text = "";
+    const char *shortcut = "";
+    const char *icon = "";
+    const char *toolTip = "";
+    void (HRFListWindow::*perform)() = nullptr;
+    bool (HRFListWindow::*isPossible)() const = nullptr; ///< always, when there is none
+};
+
+constexpr auto file = QT_TRANSLATE_NOOP("HRFListCommands", "&File");
+constexpr auto edit = QT_TRANSLATE_NOOP("HRFListCommands", "&Edit");
+constexpr auto tags = QT_TRANSLATE_NOOP("HRFListCommands", "&Tags");
+constexpr auto view = QT_TRANSLATE_NOOP("HRFListCommands", "&View");
+constexpr auto help = QT_TRANSLATE_NOOP("HRFListCommands", "&Help");
+
+using Window = HRFListWindow;
+
+/// Every command in the order of the menus.
+const CommandRow rows[] = {
+    {file, "newList"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&New List"), "Ctrl+N", "", "", &Window::newList},
+    {file, ""_L1},
+    {file, "addFiles"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Add Files…"), "Ctrl+O", "add-files",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Add audio files to the list"), &Window::addFiles, &Window::canAdd},
+    {file, "addFolder"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Add F&older…"), "Ctrl+Shift+O", "add-folder",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Add all audio files of a folder"), &Window::addFolder, &Window::canAdd},
+    {file, "recentFolders"_L1},
+    {file, ""_L1},
+    {file, "reveal"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Show in File Manager"), "Ctrl+Shift+R", "reveal",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Show the selected files in the file manager"), &Window::reveal, &Window::hasSelection},
+    {file, ""_L1},
+    {file, "closeList"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Close List"), "Ctrl+W", "", "", &Window::closeList,
+     &Window::canCloseList},
+    {file, "quit"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Quit"), "Ctrl+Q", "", "", &Window::quit},
+
+    {edit, "undo"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Undo"), "Ctrl+Z", "undo", "", &Window::undo, &Window::canUndo},
+    {edit, "redo"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Redo"), "Ctrl+Shift+Z", "redo", "", &Window::redo, &Window::canRedo},
+    {edit, ""_L1},
+    {edit, "copyPath"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Copy &Path"), "Ctrl+Shift+C", "",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Copy the paths of the selected files"), &Window::copyPath, &Window::hasSelection},
+    {edit, ""_L1},
+    {edit, "remove"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Re&move from List"), "Del", "remove",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Take the selected files out of the list; the files themselves stay"), &Window::remove,
+     &Window::canRemove},
+    {edit, "clear"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "C&lear List"), "Ctrl+Shift+Del", "",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Take all shown files out of the list; the files themselves stay"), &Window::clear,
+     &Window::canClear},
+    {edit, ""_L1},
+    {edit, "selectAll"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Select &All"), "Ctrl+A", "", "", &Window::selectAll,
+     &Window::hasFiles},
+    {edit, "filter"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Filter"), "Ctrl+F", "", "", &Window::focusFilterField},
+    {edit, "filterColumn"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Filter by &Column…"), "Ctrl+Shift+F", "",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Choose which values of the current column are shown"), &Window::filterCurrentColumn},
+    {edit, "clearFilter"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Sho&w All Files"), "Ctrl+Shift+A", "",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Take all filters away"), &Window::clearFilters, &Window::hasFilter},
+
+    {tags, "editCell"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Edit Value"), "F2", "", QT_TRANSLATE_NOOP("HRFListCommands", "Edit the current cell"),
+     &Window::editCell, &Window::hasSelection},
+    {tags, ""_L1},
+    {tags, "strip"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Strip Tags…"), "", "strip",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Remove all metadata from the selected files"), &Window::strip, &Window::canStrip},
+
+    {view, "columns"_L1},
+    {view, "sortBy"_L1},
+    {view, ""_L1},
+    {view, "higherRows"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Higher Rows"), "Ctrl++", "", "", &Window::makeRowsHigher,
+     &Window::canMakeRowsHigher},
+    {view, "lowerRows"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Lower Rows"), "Ctrl+-", "", "", &Window::makeRowsLower,
+     &Window::canMakeRowsLower},
+    {view, "usualRows"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Usual Rows"), "Ctrl+0", "", "", &Window::makeRowsUsual,
+     &Window::canMakeRowsUsual},
+    {view, ""_L1},
+    {view, "fullScreen"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Full Screen"), "F11", "", "", &Window::toggleFullScreen},
+
+    {help, "about"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&About Lirra"), "", "", "", &Window::showAbout},
+};
+
+constexpr QLatin1StringView toolBarCommands[] = {
+    "addFiles"_L1, "addFolder"_L1, ""_L1, "undo"_L1, "redo"_L1, ""_L1,
+    "remove"_L1,   "strip"_L1,     ""_L1, "reveal"_L1};
+constexpr QLatin1StringView contextCommands[] = {
+    "editCell"_L1, "filterColumn"_L1, ""_L1,    "reveal"_L1, "copyPath"_L1,
+    ""_L1,         "strip"_L1,        "remove"_L1};
+
+} // namespace
+
+HRFListCommands::HRFListCommands(HRFListWindow &window) : QObject(&window), m_window(window)
+{
+    for (int row = 0; row < int(std::size(rows)); ++row)
+        if (rows[row].perform)
+            m_actions.insert(rows[row].name, makeAction(row));
+    m_actions.value(u"quit"_s)->setMenuRole(QAction::QuitRole);
+    m_actions.value(u"about"_s)->setMenuRole(QAction::AboutRole);
+}
+
+QAction *HRFListCommands::makeAction(int row)
+{
+    const CommandRow &command = rows[row];
+    auto *action = new QAction(tr(command.text), &m_window);
+    action->setObjectName(command.name);
+    action->setShortcut(QKeySequence(QString::fromLatin1(command.shortcut)));
+    if (*command.icon)
+        action->setIcon(HRFIcons::named(QString::fromLatin1(command.icon)));
+    const QString shortcut = action->shortcut().toString(QKeySequence::NativeText);
+    const QString toolTip = *command.toolTip ? tr(command.toolTip) : action->toolTip();
+    action->setToolTip(shortcut.isEmpty() ? toolTip : u"%1 (%2)"_s.arg(toolTip, shortcut));
+    connect(action, &QAction::triggered, &m_window, command.perform);
+    return action;
+}
+
+QAction *HRFListCommands::action(const QString &name) const
+{
+    QAction *action = m_actions.value(name);
+    HRFRequire(action, "command");
+    return action;
+}
+
+QString HRFListCommands::shortcutOf(const QString &name) const
+{
+    return action(name)->shortcut().toString(QKeySequence::NativeText);
+}
+
+void HRFListCommands::fill(QMenuBar &bar)
+{
+    QHash<QLatin1StringView, QMenu *> menus;
+    for (const CommandRow &row : rows) {
+        QMenu *&menu = menus[QLatin1StringView(row.menu)];
+        if (!menu) {
+            menu = bar.addMenu(tr(row.menu));
+            connect(menu, &QMenu::aboutToShow, this, &HRFListCommands::validate);
+        }
+        if (row.perform)
+            menu->addAction(m_actions.value(row.name));
+        else if (row.name.isEmpty())
+            menu->addSeparator();
+        else if (row.name == "recentFolders"_L1)
+            addRecentFolders(*menu);
+        else if (row.name == "columns"_L1)
+            addMenusOfColumns(*menu);
+    }
+}
+
+void HRFListCommands::addRecentFolders(QMenu &menu)
+{
+    QMenu *folders = menu.addMenu(tr("Add &Recent Folder"));
+    connect(&menu, &QMenu::aboutToShow, folders, [this, folders] {
+        folders->clear();
+        const QStringList paths = HRFDocumentController::shared().recentDocuments();
+        for (const QString &path : paths)
+            connect(folders->addAction(QString(path).replace(u'&', u"&&"_s)), &QAction::triggered,
+                    &m_window, [this, path] {
+                        m_window.document().importFileAtPath(HRFFileReference::fromPath(path));
+                    });
+        folders->setEnabled(!paths.isEmpty());
+    });
+}
+
+void HRFListCommands::addMenusOfColumns(QMenu &menu)
+{
+    QMenu *columns = menu.addMenu(tr("&Columns"));
+    connect(columns, &QMenu::aboutToShow, this, [this, columns] {
+        columns->clear();
+        m_window.header().addColumnActions(*columns);
+    });
+    QMenu *order = menu.addMenu(tr("&Sort By"));
+    connect(order, &QMenu::aboutToShow, this, [this, order] {
+        order->clear();
+        m_window.header().addSortActions(*order);
+    });
+}
+
+void HRFListCommands::fill(QToolBar &bar)
+{
+    for (const QLatin1StringView name : toolBarCommands) {
+        if (name.isEmpty())
+            bar.addSeparator();
+        else
+            bar.addAction(action(name));
+    }
+}
+
+void HRFListCommands::fillContextMenu(QMenu &menu)
+{
+    validate();
+    for (const QLatin1StringView name : contextCommands) {
+        if (name.isEmpty())
+            menu.addSeparator();
+        else
+            menu.addAction(action(name));
+    }
+}
+
+void HRFListCommands::validate()
+{
+    for (const CommandRow &row : rows)
+        if (row.isPossible)
+            m_actions.value(row.name)->setEnabled((m_window.*row.isPossible)());
+    const QUndoStack &stack = m_window.document().undoManager();
+    const auto named = [](const QString &verb, const QString &what) {
+        return what.isEmpty() ? verb : verb + u" “"_s + what + u"”"_s;
+    };
+    action(u"undo"_s)->setText(named(tr("&Undo"), stack.undoText()));
+    action(u"redo"_s)->setText(named(tr("&Redo"), stack.redoText()));
+}

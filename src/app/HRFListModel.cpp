@@ -1,0 +1,247 @@
+#include "app/HRFListModel.h"
+
+#include "app/HRFFileURIs.h"
+#include "app/HRFListColumn.h"
+#include "app/HRFThumbnails.h"
+#include "document/HRFPlaylist.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
+#include "store/HRFSystemFile.h"
+#include "tags/HRFTagValue.h"
+
+#include <QMimeData>
+#include <QPixmap>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <unordered_set>
+
+using namespace Qt::StringLiterals;
+using Kind = HRFListColumnKind;
+using Records = HRFArrayController::Records;
+
+namespace {
+
+/// More ranges than these are told of as one great change.
+constexpr std::size_t mostRanges = 16;
+
+const HRFListColumn &columnAt(int section)
+{
+    return HRFListColumns::all()[std::size_t(section)];
+}
+
+/// The file whose record an object belongs to.
+const HRFMetaFile *fileOf(const HRFManagedObject *object)
+{
+    const HRFManagedObject *parent =
+        object->entity().relationshipNamed(u"parentMetaFile"_s)
+            ? object->related(u"parentMetaFile"_s)
+            : object;
+    return dynamic_cast<const HRFMetaFile *>(parent);
+}
+
+QVariant displayed(const HRFListColumn &column, const HRFMetaFile &file)
+{
+    const bool isText = column.kind != Kind::CheckBox && column.kind != Kind::Rating;
+    return isText ? column.text(file) : QVariant();
+}
+
+/// Names are edited as they are shown, with "/".
+QVariant edited(const HRFListColumn &column, const HRFMetaFile &file)
+{
+    return column.attribute()->isFilename() ? column.text(file) : column.values->value(file);
+}
+
+} // namespace
+
+HRFListModel::HRFListModel(HRFPlaylist &list, HRFThumbnails &thumbnails)
+    : m_list(list)
+    , m_thumbnails(thumbnails)
+    , m_records(list.fileController().arrangedObjects())
+{
+    connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this,
+            &HRFListModel::takeArrangement);
+    connect(&list.managedObjectContext(), &HRFMainContext::objectsDidChange, this,
+            &HRFListModel::contextDidChange);
+    connect(&thumbnails, &HRFThumbnails::thumbnailDidLoad, this, &HRFListModel::thumbnailDidLoad);
+}
+
+int HRFListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_records.size());
+}
+
+int HRFListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(HRFListColumns::all().size());
+}
+
+QVariant HRFListModel::data(const QModelIndex &index, int role) const
+{
+    const HRFListColumn &column = columnAt(index.column());
+    if (column.kind == Kind::Thumbnail)
+        return role == Thumbnail ? thumbnailAt(index.row()) : QVariant();
+    const HRFMetaFile &file = recordAt(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return displayed(column, file);
+    case Qt::AccessibleTextRole:
+        return column.text(file);
+    case Qt::EditRole:
+        return edited(column, file);
+    case Raw:
+        return column.values->value(file);
+    case Qt::CheckStateRole:
+        return column.kind == Kind::CheckBox
+            ? QVariant(column.values->value(file).toBool() ? Qt::Checked : Qt::Unchecked)
+            : QVariant();
+    case Qt::TextAlignmentRole:
+        return QVariant(Qt::AlignVCenter
+                        | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
+    default:
+        return {};
+    }
+}
+
+QVariant HRFListModel::thumbnailAt(int row) const
+{
+    const HRFMetaFile &file = recordAt(row);
+    return m_thumbnails.thumbnail(file.artworkMD5(), file.fileURL());
+}
+
+bool HRFListModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    const HRFListColumn &column = columnAt(index.column());
+    if (!column.isEditable() || (role != Qt::EditRole && role != Qt::CheckStateRole))
+        return false;
+    HRFMetaFile &file = recordAt(index.row());
+    const QVariant given =
+        role == Qt::CheckStateRole ? QVariant(value.toInt() == Qt::Checked) : value;
+    const HRFAttributeDescription &attribute = *column.attribute();
+    if (HRFTagValue::isNothing(given) ? !column.values->value(file).isValid()
+                                      : given == edited(column, file))
+        return true; // nothing changes
+    if (attribute.entity->name == HRFMetaTags::entityName()) {
+        file.tags().setValueForKey(given, attribute.name);
+        m_list.setUndoActionName(tr("Edit %1").arg(column.title));
+    } else {
+        file.fileInfo().setValueForKey(given, attribute.name);
+    }
+    return true;
+}
+
+QVariant HRFListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    const HRFListColumn &column = columnAt(section);
+    switch (role) {
+    case Qt::DisplayRole:
+        return column.kind == Kind::Thumbnail ? QString() : column.title;
+    case Qt::AccessibleTextRole:
+        return column.title;
+    case Qt::ToolTipRole:
+        return column.attribute() && !column.attribute()->localizedDescription().isEmpty()
+            ? column.title + u'\n' + column.attribute()->localizedDescription()
+            : column.title;
+    case Qt::TextAlignmentRole:
+        return QVariant(Qt::AlignVCenter
+                        | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags HRFListModel::flags(const QModelIndex &index) const
+{
+    Qt::ItemFlags flags =
+        Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren | Qt::ItemIsDragEnabled;
+    const HRFListColumn &column = columnAt(index.column());
+    if (column.kind == Kind::CheckBox)
+        flags |= Qt::ItemIsUserCheckable;
+    else if (column.isEditable())
+        flags |= Qt::ItemIsEditable;
+    return flags;
+}
+
+QStringList HRFListModel::mimeTypes() const
+{
+    return {u"text/uri-list"_s};
+}
+
+QMimeData *HRFListModel::mimeData(const QModelIndexList &indexes) const
+{
+    std::vector<HRFFileReference> files;
+    int lastRow = -1;
+    for (const QModelIndex &index : indexes) // all of a row stand together
+        if (const int row = std::exchange(lastRow, index.row()); row != index.row())
+            if (const auto file = recordAt(index.row()).url())
+                files.push_back(*file);
+    return HRFFileURIs::mimeData(files).release();
+}
+
+std::vector<int> HRFListModel::rowsOf(const Records &records) const
+{
+    const std::unordered_set<const HRFMetaFile *> wanted(records.begin(), records.end());
+    std::vector<int> rows;
+    for (std::size_t row = 0; row < m_records.size() && rows.size() < wanted.size(); ++row)
+        if (wanted.contains(m_records[row]))
+            rows.push_back(int(row));
+    return rows;
+}
+
+void HRFListModel::takeArrangement()
+{
+    const QScopedValueRollback isChangingRows(m_isChangingRows, true);
+    const Records &arranged = m_list.fileController().arrangedObjects();
+    if (const auto added = HRFRowsLeftOut(arranged, m_records, mostRanges))
+        return insertRanges(*added, arranged);
+    if (const auto gone = HRFRowsLeftOut(m_records, arranged, mostRanges))
+        return removeRanges(*gone);
+    beginResetModel();
+    m_records = arranged;
+    endResetModel();
+}
+
+void HRFListModel::insertRanges(const std::vector<HRFRowRange> &ranges, const Records &arranged)
+{
+    for (const HRFRowRange range : ranges) {
+        beginInsertRows({}, range.first, range.last);
+        m_records.insert(m_records.begin() + range.first, arranged.begin() + range.first,
+                         arranged.begin() + range.last + 1);
+        endInsertRows();
+    }
+}
+
+void HRFListModel::removeRanges(const std::vector<HRFRowRange> &ranges)
+{
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
+        beginRemoveRows({}, range->first, range->last);
+        m_records.erase(m_records.begin() + range->first, m_records.begin() + range->last + 1);
+        endRemoveRows();
+    }
+}
+
+void HRFListModel::contextDidChange(const HRFContextChanges &changes)
+{
+    std::unordered_set<const HRFMetaFile *> changed;
+    for (const HRFObjectChange &change : changes.updated)
+        changed.insert(fileOf(change.object));
+    if (changed.empty() || m_records.empty())
+        return;
+    std::vector<int> rows;
+    for (std::size_t row = 0; row < m_records.size(); ++row)
+        if (changed.contains(m_records[row]))
+            rows.push_back(int(row));
+    std::vector<HRFRowRange> ranges = HRFRangesOfRows(rows);
+    if (ranges.size() > mostRanges)
+        ranges = {{ranges.front().first, ranges.back().last}};
+    for (const HRFRowRange range : ranges)
+        Q_EMIT dataChanged(index(range.first, 0), index(range.last, columnCount() - 1));
+}
+
+void HRFListModel::thumbnailDidLoad(const QString & /*digest*/)
+{
+    if (!m_records.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0));
+}

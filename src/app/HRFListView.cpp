@@ -1,0 +1,135 @@
+#include "app/HRFListView.h"
+
+#include "app/HRFCellDelegate.h"
+#include "app/HRFListHeader.h"
+#include "app/HRFListModel.h"
+#include "kit/HRFUserDefaults.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString heightKey = u"lirra.display.rowHeight"_s;
+
+/// Heights of rows to choose from; they are never lower than a line of text.
+constexpr std::array heights{24, 32, 48, 72, 104};
+constexpr int usualStep = 0;
+
+} // namespace
+
+HRFListView::HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *parent)
+    : QTableView(parent)
+{
+    setObjectName(u"listView"_s);
+    setAccessibleName(tr("Files"));
+    setHorizontalHeader(header);
+    // A click on a title sorts; it does not select the column.
+    disconnect(header, SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
+    disconnect(header, SIGNAL(sectionEntered(int)), this, SLOT(_q_selectColumn(int)));
+    setModel(&model);
+    header->restoreColumns();
+    setItemDelegate(new HRFCellDelegate(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(DoubleClicked | EditKeyPressed);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerPixel);
+    setDragEnabled(true);
+    setDragDropMode(DragOnly);
+    setFrameShape(NoFrame);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    const auto *remembered = std::ranges::find(
+        heights, int(HRFUserDefaults::standard().integerForKey(heightKey)));
+    setRowHeightStep(remembered == heights.end() ? usualStep : int(remembered - heights.begin()));
+}
+
+int HRFListView::rowHeight() const
+{
+    return verticalHeader()->defaultSectionSize();
+}
+
+bool HRFListView::canZoom(int steps) const
+{
+    return steps == 0 ? m_step != usualStep
+                      : m_step + steps >= 0 && m_step + steps < int(heights.size());
+}
+
+void HRFListView::zoom(int steps)
+{
+    if (!canZoom(steps))
+        return;
+    setRowHeightStep(steps == 0 ? usualStep : m_step + steps);
+    HRFUserDefaults::standard().setValueForKey(heights[std::size_t(m_step)], heightKey);
+    scrollToSelection();
+}
+
+void HRFListView::setRowHeightStep(int step)
+{
+    constexpr int padding = 8;
+    m_step = step;
+    verticalHeader()->setDefaultSectionSize(
+        std::max(heights[std::size_t(step)], fontMetrics().height() + padding));
+}
+
+void HRFListView::scrollToSelection()
+{
+    const QItemSelection selection = selectionModel()->selection();
+    if (selection.isEmpty())
+        return;
+    const auto first = std::ranges::min_element(selection, {}, &QItemSelectionRange::top);
+    const int column = std::max(currentIndex().column(), 0);
+    const int bar = horizontalScrollBar()->value();
+    scrollTo(model()->index(first->top(), column));
+    horizontalScrollBar()->setValue(bar);
+}
+
+void HRFListView::editCurrent()
+{
+    if (currentIndex().flags() & Qt::ItemIsEditable)
+        edit(currentIndex());
+}
+
+void HRFListView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && event->modifiers().testFlag(Qt::NoModifier) && state() != EditingState)
+        editCurrent();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+/// Tab leads to the next cell that can be edited.
+void HRFListView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool isNext = hint == QAbstractItemDelegate::EditNextItem;
+    const bool isPrevious = hint == QAbstractItemDelegate::EditPreviousItem;
+    QTableView::closeEditor(editor, isNext || isPrevious ? QAbstractItemDelegate::NoHint : hint);
+    if (isNext || isPrevious)
+        editNext(isNext ? 1 : -1);
+}
+
+void HRFListView::editNext(int step)
+{
+    const QHeaderView &header = *horizontalHeader();
+    for (int place = header.visualIndex(currentIndex().column()) + step;
+         place >= 0 && place < header.count(); place += step) {
+        const QModelIndex next = currentIndex().siblingAtColumn(header.logicalIndex(place));
+        if (!header.isSectionHidden(next.column()) && next.flags() & Qt::ItemIsEditable) {
+            selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+            return edit(next);
+        }
+    }
+}

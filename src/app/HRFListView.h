@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTableView>
+
+class HRFListHeader;
+class HRFListModel;
+
+/// The table of a list.
+class HRFListView : public QTableView
+{
+    Q_OBJECT
+public:
+    HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *parent);
+
+    int rowHeight() const;
+    /// Makes the rows, and the thumbnails in them, higher or lower by some steps; 0 brings the
+    /// usual height back. The height is remembered.
+    void zoom(int steps);
+    bool canZoom(int steps) const;
+
+    void scrollToSelection();
+    /// Opens the editor of the current cell.
+    void editCurrent();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    void editNext(int step);
+    void setRowHeightStep(int step);
+
+    int m_step = 0; ///< in the table of heights
+};

@@ -1,0 +1,225 @@
+#include "app/HRFApplicationDelegate.h"
+#include "app/HRFFileURIs.h"
+#include "app/HRFListFilter.h"
+#include "app/HRFListHeader.h"
+#include "app/HRFListModel.h"
+#include "app/HRFListView.h"
+#include "app/HRFListWindow.h"
+#include "document/HRFPlaylist.h"
+#include "kit/HRFUserInteraction.h"
+#include "store/HRFMetaFile.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+
+using namespace Qt::StringLiterals;
+
+void HRFListWindow::newList()
+{
+    m_application.newList();
+}
+
+void HRFListWindow::addFiles()
+{
+    m_list.add();
+}
+
+void HRFListWindow::addFolder()
+{
+    auto *panel = new QFileDialog(this, tr("Add Folder"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::Directory);
+    panel->setOption(QFileDialog::ShowDirsOnly);
+    panel->setLabelText(QFileDialog::Accept, tr("Add"));
+    connect(panel, &QFileDialog::urlsSelected, this, &HRFListWindow::addURLs);
+    panel->open();
+}
+
+std::vector<HRFFileReference> HRFListWindow::selectedPaths() const
+{
+    std::vector<HRFFileReference> paths;
+    for (const HRFMetaFile *file : m_list.selectedFiles())
+        if (const auto path = file->url())
+            paths.push_back(*path);
+    return paths;
+}
+
+void HRFListWindow::reveal()
+{
+    HRFUserInteraction::current().revealFiles(selectedPaths());
+}
+
+void HRFListWindow::closeList()
+{
+    close();
+}
+
+void HRFListWindow::quit()
+{
+    m_application.quit();
+}
+
+void HRFListWindow::undo()
+{
+    m_list.undo();
+}
+
+void HRFListWindow::redo()
+{
+    m_list.redo();
+}
+
+/// As text for people, and as files for file managers.
+void HRFListWindow::copyPath()
+{
+    const std::vector<HRFFileReference> paths = selectedPaths();
+    QStringList texts;
+    for (const HRFFileReference &path : paths)
+        texts.append(path.displayPath());
+    auto copied = HRFFileURIs::mimeData(paths);
+    copied->setText(texts.join(u'\n'));
+    QGuiApplication::clipboard()->setMimeData(copied.release());
+}
+
+void HRFListWindow::remove()
+{
+    m_list.remove();
+}
+
+void HRFListWindow::clear()
+{
+    m_list.clear();
+}
+
+void HRFListWindow::selectAll()
+{
+    if (m_filterField->hasFocus())
+        m_filterField->selectAll();
+    else
+        m_view->selectAll();
+}
+
+void HRFListWindow::focusFilterField()
+{
+    m_filterField->setFocus(Qt::ShortcutFocusReason);
+    m_filterField->selectAll();
+}
+
+void HRFListWindow::filterCurrentColumn()
+{
+    const int current = m_view->currentIndex().column();
+    const int column =
+        current > 0 && !m_header->isSectionHidden(current) ? current : m_header->shownColumns().back();
+    m_header->requestFilter(column);
+}
+
+void HRFListWindow::clearFilters()
+{
+    m_filter->clear();
+}
+
+void HRFListWindow::editCell()
+{
+    m_view->editCurrent();
+}
+
+void HRFListWindow::strip()
+{
+    m_list.strip();
+}
+
+void HRFListWindow::makeRowsHigher()
+{
+    m_view->zoom(1);
+}
+
+void HRFListWindow::makeRowsLower()
+{
+    m_view->zoom(-1);
+}
+
+void HRFListWindow::makeRowsUsual()
+{
+    m_view->zoom(0);
+}
+
+void HRFListWindow::toggleFullScreen()
+{
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void HRFListWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Lirra"),
+                       tr("<h3>Lirra %1</h3><p>Edits the tags of audio files.</p>")
+                           .arg(QStringLiteral(LIRRA_VERSION)));
+}
+
+bool HRFListWindow::canAdd() const
+{
+    return m_list.validateUserInterfaceItem(u"add:"_s);
+}
+
+bool HRFListWindow::canRemove() const
+{
+    return m_list.validateUserInterfaceItem(u"remove:"_s);
+}
+
+bool HRFListWindow::canClear() const
+{
+    return m_list.validateUserInterfaceItem(u"clear:"_s);
+}
+
+bool HRFListWindow::canStrip() const
+{
+    return m_list.validateUserInterfaceItem(u"strip:"_s);
+}
+
+bool HRFListWindow::canUndo() const
+{
+    return m_list.undoManager().canUndo();
+}
+
+bool HRFListWindow::canRedo() const
+{
+    return m_list.undoManager().canRedo();
+}
+
+bool HRFListWindow::canCloseList() const
+{
+    return m_application.documents().documents().size() > 1;
+}
+
+bool HRFListWindow::hasFiles() const
+{
+    return m_model->rowCount() > 0;
+}
+
+bool HRFListWindow::hasSelection() const
+{
+    return !m_list.fileController().selectedObjects().empty();
+}
+
+bool HRFListWindow::hasFilter() const
+{
+    return m_filter->isActive();
+}
+
+bool HRFListWindow::canMakeRowsHigher() const
+{
+    return m_view->canZoom(1);
+}
+
+bool HRFListWindow::canMakeRowsLower() const
+{
+    return m_view->canZoom(-1);
+}
+
+bool HRFListWindow::canMakeRowsUsual() const
+{
+    return m_view->canZoom(0);
+}

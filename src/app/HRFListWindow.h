@@ -1,0 +1,122 @@
+#pragma once
+
+#include "app/HRFThumbnails.h"
+#include "document/HRFPlaylistWindow.h"
+#include "kit/HRFFileReference.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <memory>
+
+class HRFApplicationDelegate;
+class HRFEmptyListHint;
+class HRFListCommands;
+class HRFListFilter;
+class HRFListHeader;
+class HRFListModel;
+class HRFListView;
+class HRFPlaylist;
+class HRFSelectionLink;
+class QLineEdit;
+class QToolBar;
+
+/// The window of a list.
+class HRFListWindow : public QMainWindow, public HRFPlaylistWindow
+{
+    Q_OBJECT
+public:
+    /// Shows a list, which must live as long as the window does.
+    HRFListWindow(HRFPlaylist &list, HRFApplicationDelegate &application);
+    ~HRFListWindow() override;
+
+    HRFPlaylist &document() const { return m_list; }
+    HRFListModel &model() const { return *m_model; }
+    HRFListView &view() const { return *m_view; }
+    HRFListHeader &header() const { return *m_header; }
+    HRFListCommands &commands() const { return *m_commands; }
+    QLineEdit &filterField() const { return *m_filterField; }
+
+    void showWindows() override;
+    bool hasAttachedSheet() const override;
+    void runAddPanel(const QStringList &fileTypes) override;
+    void focusFilterFieldIfNeeded() override;
+    void clearFilterField() override;
+    void focusInitialControl() override;
+    void scrollToSelection() override;
+    void reloadArtworkPane() override { }
+
+    // Commands:
+    void newList();
+    void addFiles();
+    void addFolder();
+    void reveal();
+    void closeList();
+    void quit();
+    void undo();
+    void redo();
+    void copyPath();
+    void remove();
+    void clear();
+    void selectAll();
+    void focusFilterField();
+    void filterCurrentColumn();
+    void clearFilters();
+    void editCell();
+    void strip();
+    void makeRowsHigher();
+    void makeRowsLower();
+    void makeRowsUsual();
+    void toggleFullScreen();
+    void showAbout();
+
+    // Whether they can be given:
+    bool canAdd() const;
+    bool canRemove() const;
+    bool canClear() const;
+    bool canStrip() const;
+    bool canUndo() const;
+    bool canRedo() const;
+    bool canCloseList() const;
+    bool hasFiles() const;
+    bool hasSelection() const;
+    bool hasFilter() const;
+    bool canMakeRowsHigher() const;
+    bool canMakeRowsLower() const;
+    bool canMakeRowsUsual() const;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void makeTable();
+    void makeBars();
+    void makeFilterField(QToolBar &bar);
+    void connectDocument();
+    void filterDidChange();
+    void showFilterMenu(int column, const QPoint &corner);
+    void showHintIfEmpty();
+    void showRowMenu(const QPoint &position);
+    void addURLs(const QList<QUrl> &urls);
+    void rememberGeometry() const;
+    void validateSoon() { m_validation.start(); }
+    std::vector<HRFFileReference> selectedPaths() const;
+
+    HRFPlaylist &m_list;
+    HRFApplicationDelegate &m_application;
+    HRFThumbnails m_thumbnails;
+    std::unique_ptr<HRFListModel> m_model;
+    std::unique_ptr<HRFSelectionLink> m_selectionLink;
+    HRFListHeader *m_header = nullptr;
+    HRFListView *m_view = nullptr;
+    HRFListFilter *m_filter = nullptr;
+    HRFListCommands *m_commands = nullptr;
+    QLineEdit *m_filterField = nullptr;
+    HRFEmptyListHint *m_hint = nullptr;
+    QTimer m_validation; ///< once per event, however much changes in it
+};

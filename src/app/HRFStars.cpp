@@ -1,0 +1,113 @@
+#include "app/HRFStars.h"
+
+#include "app/HRFIcons.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The least rating that is shown as so many stars, and the one that is written for them.
+struct Step
+{
+    int least;
+    int written;
+};
+constexpr std::array<Step, HRFStars::most> steps{
+    {{1, 1}, {32, 64}, {96, 128}, {160, 196}, {224, 255}}};
+
+constexpr int starSize = 14;
+constexpr int starSpace = 2;
+constexpr int leftMargin = 4;
+
+QRect starRect(const QRect &cell, int star)
+{
+    return {cell.left() + leftMargin + (star - 1) * (starSize + starSpace),
+            cell.center().y() - starSize / 2, starSize, starSize};
+}
+
+} // namespace
+
+namespace HRFStars {
+
+int starsOf(qlonglong rating)
+{
+    return int(std::ranges::count_if(steps,
+                                     [rating](const Step &step) { return rating >= step.least; }));
+}
+
+int ratingOf(int stars)
+{
+    return stars <= 0 ? 0 : steps[std::size_t(std::min(stars, most) - 1)].written;
+}
+
+void paint(QPainter &painter, const QRect &cell, int stars,
+           bool isSelected)
+{
+    constexpr double opacityOfMissing = 0.18;
+    static const QIcon star = HRFIcons::named(u"star"_s);
+    painter.save();
+    for (int number = 1; number <= most; ++number) {
+        painter.setOpacity(number <= stars ? 1 : opacityOfMissing);
+        star.paint(&painter, starRect(cell, number), Qt::AlignCenter,
+                   isSelected ? QIcon::Selected : QIcon::Normal);
+    }
+    painter.restore();
+}
+
+int starAt(const QRect &cell, QPoint place)
+{
+    for (int number = 1; number <= most; ++number)
+        if (starRect(cell, number).adjusted(0, -cell.height(), starSpace, cell.height()).contains(place))
+            return number;
+    return 0;
+}
+
+} // namespace HRFStars
+
+HRFStarsEditor::HRFStarsEditor(QWidget *parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAutoFillBackground(true);
+    setCursor(Qt::PointingHandCursor);
+    setObjectName(u"starsEditor"_s);
+    setAccessibleName(tr("Rating"));
+}
+
+void HRFStarsEditor::setStars(int stars)
+{
+    m_stars = std::clamp(stars, 0, HRFStars::most);
+    setAccessibleDescription(tr("%n star(s)", nullptr, m_stars));
+    update();
+}
+
+void HRFStarsEditor::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    HRFStars::paint(painter, rect(), m_stars, false);
+}
+
+void HRFStarsEditor::mousePressEvent(QMouseEvent *event)
+{
+    const int star = HRFStars::starAt(rect(), event->position().toPoint());
+    setStars(star == m_stars ? 0 : star);
+    Q_EMIT editingFinished();
+}
+
+void HRFStarsEditor::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_0 + HRFStars::most)
+        setStars(event->key() - Qt::Key_0);
+    else if (event->key() == Qt::Key_Left)
+        setStars(m_stars - 1);
+    else if (event->key() == Qt::Key_Right)
+        setStars(m_stars + 1);
+    else
+        QWidget::keyPressEvent(event);
+}

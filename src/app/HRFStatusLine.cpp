@@ -1,0 +1,57 @@
+#include "app/HRFStatusLine.h"
+
+#include "app/HRFListColumn.h"
+#include "document/HRFPlaylist.h"
+#include "store/HRFValueTransformer.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The sum of an attribute, as its values are shown.
+QString sumOf(const QString &name, const HRFArrayController::Records &records)
+{
+    const HRFRecordColumn &values =
+        *HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))].values;
+    qlonglong sum = 0;
+    for (const HRFMetaFile *record : records)
+        sum += values.value(*record).toLongLong();
+    return HRFTransformedValue(values.attribute().displayValueTransformerName(), sum);
+}
+
+} // namespace
+
+HRFStatusLine::HRFStatusLine(HRFPlaylist &list, QWidget *parent) : QLabel(parent), m_list(list)
+{
+    constexpr std::chrono::milliseconds rest(80);
+    setObjectName(u"statusLine"_s);
+    setAccessibleName(tr("Status"));
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(rest);
+    connect(&m_timer, &QTimer::timeout, this, &HRFStatusLine::refresh);
+    // A timer that runs is left to run: then the line follows even what never rests.
+    const auto wait = [this] {
+        if (!m_timer.isActive())
+            m_timer.start();
+    };
+    connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this, wait);
+    connect(&list.fileController(), &HRFArrayController::selectionDidChange, this, wait);
+    refresh();
+}
+
+void HRFStatusLine::refresh()
+{
+    const auto &shown = m_list.fileController().arrangedObjects();
+    const auto &selected = m_list.fileController().selectedObjects();
+    if (shown.empty())
+        return setText(m_list.fileController().hasFilter() ? tr("No file matches the filter")
+                                                           : tr("No files"));
+    const QString count = tr("%n file(s)", nullptr, int(shown.size()));
+    const bool isPart = selected.size() > 1 && selected.size() < shown.size();
+    const auto &summed = isPart ? selected : shown;
+    QStringList parts{isPart ? tr("%1 of %2 selected").arg(selected.size()).arg(count) : count,
+                      sumOf(u"fileSize"_s, summed)};
+    if (const QString duration = sumOf(u"duration"_s, summed); !duration.isEmpty())
+        parts.append(duration);
+    setText(parts.join(u"  ·  "_s));
+}

@@ -1,0 +1,97 @@
+#include "app/HRFThumbnails.h"
+
+#include "kit/HRFAssert.h"
+#include "kit/HRFFileReferenceTable.h"
+#include "kit/HRFMainThread.h"
+#include "tags/HRFTagEngine.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+namespace {
+
+constexpr int threadCount = 2;
+constexpr qsizetype cacheBytes = 48LL << 20;
+/// More are not looked at by anybody: the user has scrolled past.
+constexpr std::size_t mostWaiting = 200;
+
+/// Null when there is no picture that can be read.
+QImage readThumbnail(const QString &fileURL)
+{
+    const auto file = HRFFileReferenceTable::fileForURL(fileURL);
+    const auto engine =
+        file ? HRFTagEngine::initWithURL(*file) : HRFResult<std::unique_ptr<HRFTagEngine>>();
+    if (!engine || !*engine)
+        return {};
+    QByteArray data = (*engine)->valueForKey(HRFTagKey::artwork).toByteArray();
+    QBuffer buffer(&data);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    const QSize bounds(HRFThumbnails::size, HRFThumbnails::size);
+    if (const QSize whole = reader.size(); whole.isValid() && !whole.isEmpty())
+        reader.setScaledSize(whole.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    const QImage image = reader.read();
+    return image.isNull() ? image
+                          : image.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+HRFThumbnails::HRFThumbnails() : m_cache(cacheBytes)
+{
+    m_pool.setMaxThreadCount(threadCount);
+}
+
+HRFThumbnails::~HRFThumbnails()
+{
+    m_pool.waitForDone();
+}
+
+QPixmap HRFThumbnails::thumbnail(const QString &digest, const QString &fileURL)
+{
+    HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
+    if (digest.isEmpty())
+        return {};
+    if (const QPixmap *present = m_cache.object(digest))
+        return *present;
+    if (!m_requested.contains(digest)) {
+        m_requested.insert(digest);
+        m_waiting.push_front({digest, fileURL});
+        if (m_waiting.size() > mostWaiting) {
+            m_requested.remove(m_waiting.back().digest);
+            m_waiting.pop_back();
+        }
+        startLoading();
+    }
+    return {};
+}
+
+void HRFThumbnails::startLoading()
+{
+    while (m_running < threadCount && !m_waiting.empty()) {
+        const Request next = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        ++m_running;
+        m_pool.start([reference = m_weakSelf.reference(), next] {
+            QImage image;
+            HRFMainThread::runLoggingFailures([&] { image = readThumbnail(next.fileURL); });
+            HRFMainThread::run(
+                [reference, digest = next.digest, image] {
+                    if (HRFThumbnails *self = reference.get())
+                        self->take(digest, image);
+                },
+                HRFMainThread::Wait::No);
+        });
+    }
+}
+
+void HRFThumbnails::take(const QString &digest, const QImage &image)
+{
+    --m_running;
+    m_requested.remove(digest);
+    constexpr qsizetype costOfNothing = 1;
+    m_cache.insert(digest, new QPixmap(QPixmap::fromImage(image)),
+                   std::max(costOfNothing, image.sizeInBytes()));
+    startLoading();
+    Q_EMIT thumbnailDidLoad(digest);
+}

@@ -1,0 +1,105 @@
+#include "app/HRFWidgetsInteraction.h"
+
+#include "app/HRFAlertDialog.h"
+#include "app/HRFDesktop.h"
+#include "app/HRFListWindow.h"
+#include "app/HRFProgressSheet.h"
+#include "operations/HRFErrorSolver.h"
+
+#include <QApplication>
+#include <QPointer>
+
+namespace {
+
+/// The window that a question or a progress belongs to. Not one that may go while the question is
+/// asked, as another sheet may.
+QWidget *windowForSheet()
+{
+    for (QWidget *widget = QApplication::activeWindow(); widget; widget = widget->parentWidget())
+        if (qobject_cast<HRFListWindow *>(widget))
+            return widget;
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (qobject_cast<HRFListWindow *>(widget) && widget->isVisible())
+            return widget;
+    return nullptr;
+}
+
+std::vector<HRFAlertButton> buttonsOf(const HRFError &error)
+{
+    if (const auto solver = HRFErrorSolver::solverOfError(error))
+        return solver->buttons();
+    std::vector<HRFAlertButton> buttons;
+    for (const QString &title : error.recoveryOptions)
+        buttons.push_back({.title = title});
+    return buttons;
+}
+
+/// What is known of the reasons.
+QString reasonOf(const HRFError &error)
+{
+    QStringList texts{error.recoverySuggestion};
+    for (auto cause = error.underlying; cause; cause = cause->underlying)
+        if (cause->description != error.description)
+            texts.append({cause->description, cause->recoverySuggestion});
+    texts.removeAll(QString());
+    texts.removeDuplicates();
+    return texts.join(u'\n');
+}
+
+} // namespace
+
+HRFWidgetsInteraction::HRFWidgetsInteraction()
+{
+    setCurrent(this);
+}
+
+HRFWidgetsInteraction::~HRFWidgetsInteraction()
+{
+    setCurrent(nullptr);
+}
+
+HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
+{
+    const QPointer dialog(new HRFAlertDialog(alert, windowForSheet()));
+    dialog->exec();
+    if (!dialog) // its window was closed
+        return {.button = HRFAlertDialog::buttonForEscape(alert).value_or(alert.buttons.size() - 1)};
+    const HRFAlertAnswer answer = dialog->answer();
+    delete dialog;
+    return answer;
+}
+
+bool HRFWidgetsInteraction::presentError(const HRFError &error)
+{
+    HRFAlert alert{.message = error.description,
+                   .informativeText = reasonOf(error),
+                   .buttons = buttonsOf(error),
+                   .isCritical = true};
+    if (!error.path.isEmpty())
+        alert.icon = HRFFileReference::fromPath(error.path);
+    if (alert.buttons.empty())
+        alert.buttons = {
+            {.title = QApplication::translate("HRFWidgetsInteraction", "OK"),
+             .role = HRFAnswerRole::Continue}};
+    const HRFAlertAnswer answer = runAlert(alert);
+    return error.recoveryAttempter && !error.recoveryOptions.isEmpty()
+        && error.recoveryAttempter(error, int(answer.button));
+}
+
+void HRFWidgetsInteraction::revealFiles(const std::vector<HRFFileReference> &files)
+{
+    HRFDesktop::revealFiles(files);
+}
+
+void HRFWidgetsInteraction::notify(const QString &title, const QString &text, bool showsRegardless)
+{
+    if (showsRegardless || !QApplication::activeWindow())
+        HRFDesktop::notify(title, text);
+}
+
+std::unique_ptr<HRFProgressDisplay>
+HRFWidgetsInteraction::showProgress(const std::shared_ptr<HRFProgress> &progress,
+                                    const HRFProgressAppearance &appearance)
+{
+    return std::make_unique<HRFProgressSheet>(progress, appearance, windowForSheet());
+}

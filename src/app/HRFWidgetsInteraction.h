@@ -1,0 +1,22 @@
+#pragma once
+
+#include "kit/HRFUserInteraction.h"
+
+class QWidget;
+
+/// The user of the desktop application. Questions and progresses stand on the active window like
+/// sheets. It is the current interaction as long as it lives.
+class HRFWidgetsInteraction : public HRFUserInteraction
+{
+public:
+    HRFWidgetsInteraction();
+    ~HRFWidgetsInteraction() override;
+
+    HRFAlertAnswer runAlert(const HRFAlert &alert) override;
+    bool presentError(const HRFError &error) override;
+    void revealFiles(const std::vector<HRFFileReference> &files) override;
+    void notify(const QString &title, const QString &text, bool showsRegardless) override;
+    std::unique_ptr<HRFProgressDisplay>
+    showProgress(const std::shared_ptr<HRFProgress> &progress,
+                 const HRFProgressAppearance &appearance) override;
+};
