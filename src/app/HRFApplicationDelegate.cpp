@@ -44,8 +44,7 @@ void HRFApplicationDelegate::close(HRFListWindow &window)
 {
     if (m_windows.size() < 2)
         return quit();
-    const auto found =
-        std::ranges::find(m_windows, &window, &std::unique_ptr<HRFListWindow>::get);
+    const auto found = std::ranges::find(m_windows, &window, &std::unique_ptr<HRFListWindow>::get);
     HRFRequire(found != m_windows.end(), "window");
     HRFPlaylist &list = window.document();
     list.setWindow(nullptr);

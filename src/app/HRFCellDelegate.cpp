@@ -116,8 +116,7 @@ void HRFCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     if (kind == Kind::Thumbnail)
         paintThumbnail(painter, option, index.data(HRFListModel::Thumbnail).value<QPixmap>());
     else if (kind == Kind::CheckBox)
-        paintCheckBox(painter, option,
-                      index.data(Qt::CheckStateRole).toInt() == Qt::Checked);
+        paintCheckBox(painter, option, index.data(Qt::CheckStateRole).toInt() == Qt::Checked);
     else if (const int stars = HRFStars::starsOf(index.data(HRFListModel::Raw).toLongLong());
              stars > 0 || option.state & QStyle::State_MouseOver)
         HRFStars::paint(*painter, option.rect, stars, option.state & QStyle::State_Selected);
@@ -185,8 +184,8 @@ bool HRFCellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
     QString text;
     if (sizeHint(option, index).width() > option.rect.width())
         text = index.data(Qt::DisplayRole).toString().left(longest).toHtmlEscaped();
-    QToolTip::showText(event->globalPos(), text.isEmpty() ? text : u"<p>"_s + text + u"</p>"_s, view,
-                       option.rect);
+    QToolTip::showText(event->globalPos(), text.isEmpty() ? text : u"<p>"_s + text + u"</p>"_s,
+                       view, option.rect);
     return true;
 }
 

@@ -36,7 +36,8 @@ void revealFiles(const std::vector<HRFFileReference> &files)
         u"org.freedesktop.FileManager1"_s, u"/org/freedesktop/FileManager1"_s,
         u"org.freedesktop.FileManager1"_s, u"ShowItems"_s);
     call.setArguments({uris, QString()});
-    auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), qApp);
+    auto *watcher =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), qApp);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
                      [first = files.front()](QDBusPendingCallWatcher *finished) {
                          finished->deleteLater();

@@ -62,8 +62,9 @@ int runWindows(const Options &options)
     const HRFInstance instance(path);
     QObject::connect(&instance, &HRFInstance::pathsDidArrive, &application,
                      &HRFApplicationDelegate::open);
-    QObject::connect(&application, &HRFApplicationDelegate::didTerminate, qApp,
-                     [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    QObject::connect(
+        &application, &HRFApplicationDelegate::didTerminate, qApp, [] { QCoreApplication::exit(); },
+        Qt::QueuedConnection);
     application.newList();
     if (files.empty())
         application.documents().openStartupDirectory();

@@ -39,8 +39,7 @@ HRFFilterMenu::HRFFilterMenu(HRFListFilter &filter, int column, QWidget *parent)
     setObjectName(u"filterMenu"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setFrameShape(QFrame::StyledPanel);
-    setAccessibleName(
-        tr("Filter by “%1”").arg(HRFListColumns::all()[std::size_t(column)].title));
+    setAccessibleName(tr("Filter by “%1”").arg(HRFListColumns::all()[std::size_t(column)].title));
     if (const auto allowed = filter.allowedTexts(column))
         m_allowed = *allowed;
     else

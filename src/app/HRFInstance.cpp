@@ -54,6 +54,7 @@ void HRFInstance::receive(QLocalSocket *socket)
     if (!stream.commitTransaction())
         return; // there is more to come
     socket->putChar(thanks);
+    socket->flush();
     socket->disconnectFromServer();
     std::vector<HRFFileReference> paths;
     for (const QByteArray &path : nativePaths)

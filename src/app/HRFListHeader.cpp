@@ -30,14 +30,15 @@ constexpr int narrowest = 24;
 const QStringList &defaultLayout()
 {
     static const QStringList layout{
-        u"artwork:34"_s, u"fileName:220"_s,  u"title:200"_s, u"artist:160"_s, u"album:180"_s,
-        u"trackNumber:64"_s, u"year:60"_s, u"genre:110"_s, u"rating:96"_s, u"duration:80"_s};
+        u"artwork:34"_s,     u"fileName:220"_s, u"title:200"_s, u"artist:160"_s, u"album:180"_s,
+        u"trackNumber:64"_s, u"year:60"_s,      u"genre:110"_s, u"rating:96"_s,  u"duration:80"_s};
     return layout;
 }
 
 QString keyPathOf(int column)
 {
-    const HRFAttributeDescription *attribute = HRFListColumns::all()[std::size_t(column)].attribute();
+    const HRFAttributeDescription *attribute =
+        HRFListColumns::all()[std::size_t(column)].attribute();
     return attribute ? attribute->path() : QString();
 }
 
@@ -286,8 +287,7 @@ void HRFListHeader::contextMenuEvent(QContextMenuEvent *event)
                     [this, column] { requestFilter(column); });
         QAction *hide = menu.addAction(tr("Hide “%1”").arg(title));
         hide->setEnabled(shownColumns().size() > 1);
-        connect(hide, &QAction::triggered, this,
-                [this, column] { setColumnShown(column, false); });
+        connect(hide, &QAction::triggered, this, [this, column] { setColumnShown(column, false); });
         menu.addSeparator();
     }
     addColumnActions(menu);

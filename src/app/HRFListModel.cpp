@@ -33,10 +33,9 @@ const HRFListColumn &columnAt(int section)
 /// The file whose record an object belongs to.
 const HRFMetaFile *fileOf(const HRFManagedObject *object)
 {
-    const HRFManagedObject *parent =
-        object->entity().relationshipNamed(u"parentMetaFile"_s)
-            ? object->related(u"parentMetaFile"_s)
-            : object;
+    const HRFManagedObject *parent = object->entity().relationshipNamed(u"parentMetaFile"_s)
+        ? object->related(u"parentMetaFile"_s)
+        : object;
     return dynamic_cast<const HRFMetaFile *>(parent);
 }
 
@@ -55,9 +54,7 @@ QVariant edited(const HRFListColumn &column, const HRFMetaFile &file)
 } // namespace
 
 HRFListModel::HRFListModel(HRFPlaylist &list, HRFThumbnails &thumbnails)
-    : m_list(list)
-    , m_thumbnails(thumbnails)
-    , m_records(list.fileController().arrangedObjects())
+    : m_list(list), m_thumbnails(thumbnails), m_records(list.fileController().arrangedObjects())
 {
     connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this,
             &HRFListModel::takeArrangement);
@@ -96,8 +93,7 @@ QVariant HRFListModel::data(const QModelIndex &index, int role) const
             ? QVariant(column.values->value(file).toBool() ? Qt::Checked : Qt::Unchecked)
             : QVariant();
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignVCenter
-                        | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
+        return QVariant(Qt::AlignVCenter | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
     default:
         return {};
     }
@@ -145,8 +141,7 @@ QVariant HRFListModel::headerData(int section, Qt::Orientation orientation, int 
             ? column.title + u'\n' + column.attribute()->localizedDescription()
             : column.title;
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignVCenter
-                        | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
+        return QVariant(Qt::AlignVCenter | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
     default:
         return {};
     }

@@ -39,7 +39,7 @@ public:
 private:
     void takeArrangement();
     void insertRanges(const std::vector<HRFRowRange> &ranges,
-                    const HRFArrayController::Records &arranged);
+                      const HRFArrayController::Records &arranged);
     void removeRanges(const std::vector<HRFRowRange> &ranges);
     void contextDidChange(const HRFContextChanges &changes);
     void thumbnailDidLoad(const QString &digest);

@@ -51,8 +51,8 @@ HRFListView::HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *pa
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
-    const auto *remembered = std::ranges::find(
-        heights, int(HRFUserDefaults::standard().integerForKey(heightKey)));
+    const auto *remembered =
+        std::ranges::find(heights, int(HRFUserDefaults::standard().integerForKey(heightKey)));
     setRowHeightStep(remembered == heights.end() ? usualStep : int(remembered - heights.begin()));
 }
 

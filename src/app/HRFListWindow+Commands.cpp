@@ -112,8 +112,9 @@ void HRFListWindow::focusFilterField()
 void HRFListWindow::filterCurrentColumn()
 {
     const int current = m_view->currentIndex().column();
-    const int column =
-        current > 0 && !m_header->isSectionHidden(current) ? current : m_header->shownColumns().back();
+    const int column = current > 0 && !m_header->isSectionHidden(current)
+        ? current
+        : m_header->shownColumns().back();
     m_header->requestFilter(column);
 }
 

@@ -186,8 +186,7 @@ void HRFListWindow::runAddPanel(const QStringList &fileTypes)
     auto *panel = new QFileDialog(this, tr("Add Files"));
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFiles);
-    panel->setNameFilters(
-        {tr("Audio Files (%1)").arg(patterns.join(u' ')), tr("All Files (*)")});
+    panel->setNameFilters({tr("Audio Files (%1)").arg(patterns.join(u' ')), tr("All Files (*)")});
     panel->setLabelText(QFileDialog::Accept, tr("Add"));
     connect(panel, &QFileDialog::urlsSelected, this, &HRFListWindow::addURLs);
     panel->open();

@@ -54,8 +54,8 @@ HRFProgressDialog::HRFProgressDialog(std::shared_ptr<HRFProgress> progress,
 
 void HRFProgressDialog::refresh()
 {
-    const QString title = m_appearance.title.isEmpty() ? m_progress->localizedDescription()
-                                                       : m_appearance.title;
+    const QString title =
+        m_appearance.title.isEmpty() ? m_progress->localizedDescription() : m_appearance.title;
     m_title->setText(title);
     const qlonglong total = m_progress->totalUnitCount();
     constexpr int steps = 1000;
@@ -63,8 +63,9 @@ void HRFProgressDialog::refresh()
     m_bar->setValue(int(m_progress->fractionCompleted() * steps));
     const QString further = m_progress->localizedAdditionalDescription();
     const QLocale locale;
-    const QString count = tr("%1 of %2").arg(locale.toString(m_progress->completedUnitCount()),
-                                             locale.toString(total));
+    const QString count =
+        tr("%1 of %2")
+            .arg(locale.toString(m_progress->completedUnitCount()), locale.toString(total));
     m_details->setText(m_progress->isCancelled() ? tr("Cancelling…")
                            : !further.isEmpty()  ? further
                            : total > 0           ? count

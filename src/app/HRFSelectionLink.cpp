@@ -35,6 +35,13 @@ HRFSelectionLink::HRFSelectionLink(HRFArrayController &controller, HRFListModel 
 {
     connect(&selection, &QItemSelectionModel::selectionChanged, this,
             &HRFSelectionLink::takeFromView);
+    connect(&selection, &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current) {
+                if (!current.isValid())
+                    return;
+                m_currentRecord = &m_model.recordAt(current.row());
+                m_currentColumn = current.column();
+            });
     // After the model, which was told of the new arrangement first.
     connect(&controller, &HRFArrayController::arrangementDidChange, this,
             &HRFSelectionLink::giveToView);
@@ -61,15 +68,23 @@ void HRFSelectionLink::giveToView()
     const std::vector<int> rows = m_model.rowsOf(m_controller.selectedObjects());
     const std::vector<HRFRowRange> ranges = HRFRangesOfRows(rows);
     if (ranges == rangesOf(m_selection.selection()))
-        return;
+        return restoreCurrent(rows);
     const QScopedValueRollback isGiving(m_isGiving, true);
     QItemSelection selection;
     const int lastColumn = m_model.columnCount() - 1;
     for (const HRFRowRange range : ranges)
         selection.append({m_model.index(range.first, 0), m_model.index(range.last, lastColumn)});
     m_selection.select(selection, QItemSelectionModel::ClearAndSelect);
-    const QModelIndex current = m_selection.currentIndex();
-    if (!rows.empty() && !m_selection.isSelected(current))
-        m_selection.setCurrentIndex(m_model.index(rows.front(), std::max(current.column(), 0)),
-                                    QItemSelectionModel::NoUpdate);
+    restoreCurrent(rows);
+}
+
+/// The current cell is one of a selected row.
+void HRFSelectionLink::restoreCurrent(const std::vector<int> &rows)
+{
+    if (rows.empty() || m_selection.isSelected(m_selection.currentIndex()))
+        return;
+    const auto found = std::ranges::find_if(
+        rows, [this](int row) { return &m_model.recordAt(row) == m_currentRecord; });
+    const int row = found == rows.end() ? rows.front() : *found;
+    m_selection.setCurrentIndex(m_model.index(row, m_currentColumn), QItemSelectionModel::NoUpdate);
 }

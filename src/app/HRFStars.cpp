@@ -38,8 +38,8 @@ namespace HRFStars {
 
 int starsOf(qlonglong rating)
 {
-    return int(std::ranges::count_if(steps,
-                                     [rating](const Step &step) { return rating >= step.least; }));
+    return int(
+        std::ranges::count_if(steps, [rating](const Step &step) { return rating >= step.least; }));
 }
 
 int ratingOf(int stars)
@@ -47,8 +47,7 @@ int ratingOf(int stars)
     return stars <= 0 ? 0 : steps[std::size_t(std::min(stars, most) - 1)].written;
 }
 
-void paint(QPainter &painter, const QRect &cell, int stars,
-           bool isSelected)
+void paint(QPainter &painter, const QRect &cell, int stars, bool isSelected)
 {
     constexpr double opacityOfMissing = 0.18;
     static const QIcon star = HRFIcons::named(u"star"_s);
@@ -64,7 +63,9 @@ void paint(QPainter &painter, const QRect &cell, int stars,
 int starAt(const QRect &cell, QPoint place)
 {
     for (int number = 1; number <= most; ++number)
-        if (starRect(cell, number).adjusted(0, -cell.height(), starSpace, cell.height()).contains(place))
+        if (starRect(cell, number)
+                .adjusted(0, -cell.height(), starSpace, cell.height())
+                .contains(place))
             return number;
     return 0;
 }

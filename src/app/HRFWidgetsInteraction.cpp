@@ -63,7 +63,8 @@ HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
     const QPointer dialog(new HRFAlertDialog(alert, windowForSheet()));
     dialog->exec();
     if (!dialog) // its window was closed
-        return {.button = HRFAlertDialog::buttonForEscape(alert).value_or(alert.buttons.size() - 1)};
+        return {.button =
+                    HRFAlertDialog::buttonForEscape(alert).value_or(alert.buttons.size() - 1)};
     const HRFAlertAnswer answer = dialog->answer();
     delete dialog;
     return answer;
@@ -78,9 +79,8 @@ bool HRFWidgetsInteraction::presentError(const HRFError &error)
     if (!error.path.isEmpty())
         alert.icon = HRFFileReference::fromPath(error.path);
     if (alert.buttons.empty())
-        alert.buttons = {
-            {.title = QApplication::translate("HRFWidgetsInteraction", "OK"),
-             .role = HRFAnswerRole::Continue}};
+        alert.buttons = {{.title = QApplication::translate("HRFWidgetsInteraction", "OK"),
+                          .role = HRFAnswerRole::Continue}};
     const HRFAlertAnswer answer = runAlert(alert);
     return error.recoveryAttempter && !error.recoveryOptions.isEmpty()
         && error.recoveryAttempter(error, int(answer.button));

@@ -8,15 +8,17 @@
 #include <gtest/gtest.h>
 
 /// For tests that need an event loop, and a folder of their own.
-class HRFApplicationTest : public ::testing::Test
+template <class Application> class HRFTestWithApplication : public ::testing::Test
 {
 protected:
-    HRFApplicationTest()
+    HRFTestWithApplication()
     {
         static int argc = 1;
         static char name[] = "tests";
         static char *argv[] = {name, nullptr};
-        static const QCoreApplication application(argc, argv);
+        // Never destroyed: what Qt keeps of its own until the end may outlive no application.
+        static const auto *const application = new Application(argc, argv);
+        Q_UNUSED(application)
     }
     void TearDown() override { HRFBackground::waitUntilIdle(); }
 
@@ -32,3 +34,5 @@ protected:
 private:
     QTemporaryDir m_folder;
 };
+
+using HRFApplicationTest = HRFTestWithApplication<QCoreApplication>;

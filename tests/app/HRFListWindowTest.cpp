@@ -1,0 +1,343 @@
+#include "app/HRFListWindow.h"
+
+#include "app/HRFApplicationDelegate.h"
+#include "app/HRFFileURIs.h"
+#include "app/HRFFilterMenu.h"
+#include "app/HRFListColumn.h"
+#include "app/HRFListCommands.h"
+#include "app/HRFListHeader.h"
+#include "app/HRFListModel.h"
+#include "app/HRFListView.h"
+#include "document/HRFPlaylist.h"
+#include "kit/HRFUserDefaults.h"
+#include "store/HRFDataFolder.h"
+#include "support/HRFScriptedInteraction.h"
+#include "support/HRFTestApplication.h"
+#include "support/HRFTestFile.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPointer>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+/// The program's window, as the user has it before them.
+class HRFListWindowTest : public HRFTestWithApplication<QApplication>
+{
+protected:
+    HRFListWindowTest() : dataFolder(*HRFDataFolder::take(path(u"data"_s)))
+    {
+        HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
+        QDir().mkpath(path(u"music"_s));
+        open();
+    }
+    ~HRFListWindowTest() override
+    {
+        close();
+        HRFUserDefaults::standard().setFilePath({});
+    }
+
+    void open()
+    {
+        application = std::make_unique<HRFApplicationDelegate>();
+        window = &application->newList();
+    }
+    void close()
+    {
+        application.reset();
+        HRFBackground::waitUntilIdle();
+    }
+
+    HRFFileReference music(const QString &name) const
+    {
+        return HRFFileReference::fromPath(path(u"music/"_s + name));
+    }
+    void makeFile(const QString &name, const HRFTagValues &values) const
+    {
+        HRFTestFile file = HRFTestFile::fixture("id3v23.mp3");
+        file.set(values);
+        QFile copy(path(u"music/"_s + name));
+        ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
+        copy.write(file.bytes);
+    }
+    /// Three files of two artists: "b.mp3", "a.mp3", "c.mp3".
+    void makeFiles() const
+    {
+        makeFile(u"a.mp3"_s, {{HRFTagKey::title, u"Two"_s}, {HRFTagKey::artist, u"Ann"_s}});
+        makeFile(u"b.mp3"_s, {{HRFTagKey::title, u"One"_s}, {HRFTagKey::artist, u"Bob"_s}});
+        makeFile(u"c.mp3"_s, {{HRFTagKey::title, u"Three"_s}, {HRFTagKey::artist, u"Ann"_s}});
+    }
+    void drop(const std::vector<HRFFileReference> &files) const
+    {
+        const auto data = HRFFileURIs::mimeData(files);
+        QDragEnterEvent enter({50, 50}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(window, &enter);
+        ASSERT_TRUE(enter.isAccepted());
+        QDropEvent event(QPointF(50, 50), Qt::CopyAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(window, &event);
+    }
+    void dropFolder(int expectedRows) const
+    {
+        drop({music(u""_s)});
+        waitUntil([&] { return window->model().rowCount() == expectedRows; });
+        waitForWork();
+    }
+    static void waitForWork()
+    {
+        HRFBackground::waitUntilIdle();
+        QCoreApplication::processEvents();
+        waitUntil([] { return HRFMetaFileManager::fileOperationQueue().operationCount() == 0; });
+    }
+
+    static int column(const QString &name) { return HRFListColumns::indexOf(name); }
+    QModelIndex cell(int row, const QString &name) const
+    {
+        return window->model().index(row, column(name));
+    }
+    /// What a column shows from top to bottom.
+    std::vector<QString> texts(const QString &name) const
+    {
+        std::vector<QString> shown;
+        for (int row = 0; row < window->model().rowCount(); ++row)
+            shown.push_back(cell(row, name).data().toString());
+        return shown;
+    }
+    void click(const QModelIndex &index, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        window->view().scrollTo(index);
+        QTest::mouseClick(window->view().viewport(), Qt::LeftButton, modifiers,
+                          window->view().visualRect(index).center());
+    }
+    /// Opens the editor of a cell, and types into it what is shown instead.
+    void type(const QModelIndex &index, const QString &text) const
+    {
+        window->header().setColumnShown(index.column(), true);
+        click(index);
+        window->commands().action(u"editCell"_s)->trigger();
+        const QPointer editor(window->findChild<QWidget *>(u"cellEditor"_s));
+        ASSERT_TRUE(editor);
+        QCoreApplication::processEvents(); // lets a name select its base
+        if (auto *field = qobject_cast<QLineEdit *>(editor))
+            field->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        if (editor && editor->isVisible()) // Return was not accepted
+            QTest::keyClick(editor, Qt::Key_Escape);
+        delete editor; // so that it is not found again
+    }
+    static QString onDisk(const HRFFileReference &file, HRFTagKey key)
+    {
+        const auto engine = HRFTagEngine::initWithURL(file);
+        return engine ? (*engine)->valueForKey(key).toString() : u"no engine"_s;
+    }
+    /// Clicks the title of a column.
+    void sortBy(const QString &name, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        const HRFListHeader &header = window->header();
+        const int x = header.sectionViewportPosition(column(name)) + 12;
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, modifiers, {x, header.height() / 2});
+    }
+
+    HRFScriptedInteraction user;
+    std::unique_ptr<HRFDataFolder> dataFolder;
+    std::unique_ptr<HRFApplicationDelegate> application;
+    HRFListWindow *window = nullptr;
+};
+
+TEST_F(HRFListWindowTest, editsADroppedFileAndTakesItBack)
+{
+    const QByteArray oddName = path(u"music"_s).toUtf8() + "/\xFF.mp3"; // not UTF-8
+    makeFile(u"a.mp3"_s, {{HRFTagKey::title, u"Old"_s}});
+    ASSERT_EQ(::rename(music(u"a.mp3"_s).nativePath().constData(), oddName.constData()), 0);
+    const auto file = HRFFileReference::fromNativePath(oddName);
+    drop({file});
+    waitUntil([&] { return window->model().rowCount() == 1; });
+    waitForWork();
+    type(cell(0, u"title"_s), u"New"_s);
+    waitUntil([&] { return onDisk(file, HRFTagKey::title) == u"New"_s; });
+    waitForWork();
+    QAction *undo = window->commands().action(u"undo"_s);
+    EXPECT_EQ(undo->text(), u"&Undo “Edit Title”"_s);
+    undo->trigger();
+    EXPECT_EQ(texts(u"title"_s), std::vector{u"Old"_s});
+    waitUntil([&] { return onDisk(file, HRFTagKey::title) == u"Old"_s; });
+    waitForWork();
+}
+
+TEST_F(HRFListWindowTest, takesOnlyValuesOfTheColumn)
+{
+    makeFile(u"a.mp3"_s, {{HRFTagKey::year, 1999}});
+    dropFolder(1);
+    struct Case
+    {
+        QString column;
+        QString typed;
+        QVariant expected;
+    };
+    const QDateTime day(QDate(2024, 2, 29), QTime(0, 0), Qt::UTC);
+    const Case cases[] = {
+        {u"trackNumber"_s, u"7"_s, 7},
+        {u"trackNumber"_s, u"0"_s, QVariant()},
+        {u"year"_s, u"x2,000"_s, 2000},
+        {u"rating"_s, u"4"_s, 196},
+        {u"releaseTime"_s, u"2024-02-29"_s, day},
+        {u"releaseTime"_s, u"2023-02-29"_s, day}, // there was no such day
+        {u"title"_s, u"AC/DC"_s, u"AC/DC"_s},
+        {u"fileName"_s, u".."_s, u"a.mp3"_s},
+    };
+    for (const Case &test : cases) {
+        type(cell(0, test.column), test.typed);
+        EXPECT_EQ(cell(0, test.column).data(HRFListModel::Raw), test.expected)
+            << test.column.toStdString() << " " << test.typed.toStdString();
+    }
+    window->header().setColumnShown(column(u"isPartOfACompilation"_s), true);
+    click(cell(0, u"isPartOfACompilation"_s));
+    EXPECT_EQ(cell(0, u"isPartOfACompilation"_s).data(HRFListModel::Raw), true);
+    waitForWork();
+    EXPECT_EQ(onDisk(music(u"a.mp3"_s), HRFTagKey::rating), u"196"_s);
+}
+
+TEST_F(HRFListWindowTest, sortsByTitlesThatAreClicked)
+{
+    makeFiles();
+    dropFolder(3);
+    sortBy(u"artist"_s);
+    sortBy(u"title"_s, Qt::ShiftModifier);
+    EXPECT_THAT(texts(u"title"_s), ElementsAre(u"Three"_s, u"Two"_s, u"One"_s));
+    click(cell(1, u"title"_s));
+    sortBy(u"artist"_s); // the other way round, and by the artist alone
+    EXPECT_THAT(texts(u"title"_s), ElementsAre(u"One"_s, u"Two"_s, u"Three"_s));
+    EXPECT_EQ(window->document().selectedFiles(),
+              std::vector{&window->model().recordAt(1)}); // "Two", as before
+    EXPECT_EQ(window->view().currentIndex(), cell(1, u"title"_s));
+}
+
+TEST_F(HRFListWindowTest, filtersByWordsAndByValues)
+{
+    makeFiles();
+    dropFolder(3);
+    QTest::keyClicks(&window->filterField(), u"an TW"_s);
+    waitUntil([&] { return window->model().rowCount() == 1; });
+    EXPECT_THAT(texts(u"title"_s), ElementsAre(u"Two"_s));
+    window->commands().action(u"clearFilter"_s)->trigger();
+    waitUntil([&] { return window->model().rowCount() == 3; });
+    EXPECT_EQ(window->filterField().text(), QString());
+
+    click(cell(0, u"artist"_s));
+    window->commands().action(u"filterColumn"_s)->trigger();
+    auto *menu = window->findChild<HRFFilterMenu *>();
+    const auto *values = menu->findChild<QAbstractItemView *>(u"filterValues"_s)->model();
+    ASSERT_EQ(values->rowCount(), 2);
+    EXPECT_EQ(values->index(0, 0).data().toString(), u"Ann   (2)"_s);
+    QTest::keyClicks(menu->findChild<QLineEdit *>(), u"bo"_s);
+    EXPECT_EQ(values->rowCount(), 1);
+    QTest::keyClick(menu->findChild<QLineEdit *>(), Qt::Key_Return);
+    waitUntil([&] { return window->model().rowCount() == 1; });
+    EXPECT_THAT(texts(u"title"_s), ElementsAre(u"One"_s));
+
+    makeFile(u"d.mp3"_s, {}); // shall be seen
+    dropFolder(4);
+    EXPECT_FALSE(window->hasFilter());
+}
+
+TEST_F(HRFListWindowTest, remembersItsColumns)
+{
+    HRFListHeader *header = &window->header();
+    header->setColumnShown(column(u"album"_s), false);
+    header->setColumnShown(column(u"bpm"_s), true);
+    header->moveSection(header->visualIndex(column(u"bpm"_s)), 0);
+    header->resizeSection(column(u"title"_s), 321);
+    const std::vector<int> shown = header->shownColumns();
+    close();
+    open();
+    EXPECT_EQ(window->header().shownColumns(), shown);
+    EXPECT_EQ(shown.front(), column(u"bpm"_s));
+    EXPECT_TRUE(window->header().isSectionHidden(column(u"album"_s)));
+    EXPECT_EQ(window->header().sectionSize(column(u"title"_s)), 321);
+}
+
+TEST_F(HRFListWindowTest, keepsSelectionsInStep)
+{
+    makeFiles();
+    dropFolder(3);
+    EXPECT_EQ(window->document().selectedFiles().size(), 3U); // what was added
+    click(cell(0, u"title"_s));
+    click(cell(2, u"title"_s), Qt::ControlModifier);
+    EXPECT_EQ(window->document().selectedFiles(),
+              (std::vector{&window->model().recordAt(0), &window->model().recordAt(2)}));
+    window->document().setSelectedFiles({&window->model().recordAt(1)});
+    EXPECT_TRUE(window->view().selectionModel()->isRowSelected(1));
+    EXPECT_EQ(window->view().selectionModel()->selectedRows().size(), 1);
+    window->view().clearSelection(); // something stays selected
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window->view().selectionModel()->isRowSelected(1));
+    window->commands().action(u"remove"_s)->trigger();
+    EXPECT_EQ(window->model().rowCount(), 2);
+    EXPECT_TRUE(window->view().selectionModel()->isRowSelected(1)); // the one below
+}
+
+TEST_F(HRFListWindowTest, stripsAfterAQuestion)
+{
+    makeFiles();
+    dropFolder(3);
+    click(cell(1, u"title"_s));
+    QCoreApplication::processEvents();
+    user.answers = {{HRFAnswerRole::Cancel}, {HRFAnswerRole::Accept}};
+    window->commands().action(u"strip"_s)->trigger();
+    EXPECT_EQ(cell(1, u"title"_s).data(), u"One"_s);
+    window->commands().action(u"strip"_s)->trigger();
+    waitUntil([&] { return cell(1, u"title"_s).data().toString().isEmpty(); });
+    EXPECT_EQ(onDisk(music(u"b.mp3"_s), HRFTagKey::title), QString());
+    EXPECT_EQ(onDisk(music(u"a.mp3"_s), HRFTagKey::title), u"Two"_s);
+    waitForWork();
+}
+
+TEST_F(HRFListWindowTest, closesListsAndEndsWithTheLast)
+{
+    int ends = 0;
+    QObject::connect(application.get(), &HRFApplicationDelegate::didTerminate, [&] { ++ends; });
+    HRFListWindow &second = application->newList();
+    second.closeList();
+    EXPECT_EQ(application->documents().documents().size(), 1U);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 0);
+    window->close();
+    EXPECT_EQ(ends, 1);
+}
+
+/// Who cannot see the screen is told what a control is.
+TEST_F(HRFListWindowTest, namesItsControls)
+{
+    makeFiles();
+    dropFolder(3);
+    window->header().requestFilter(column(u"artist"_s));
+    int controls = 0;
+    for (QWidget *widget : window->findChildren<QWidget *>()) {
+        const auto *button = qobject_cast<QAbstractButton *>(widget);
+        const bool isOwnedByStyle = widget->objectName().startsWith(u"qt_"_s)
+            || widget->parentWidget()->inherits("QLineEdit")
+            || (button && button->inherits("QTableCornerButton"));
+        if (widget->focusPolicy() == Qt::NoFocus && !button)
+            continue;
+        if (isOwnedByStyle || widget->objectName() == u"qt_scrollarea_viewport"_s)
+            continue;
+        ++controls;
+        const QString text = button ? button->text() : QString();
+        EXPECT_FALSE((widget->accessibleName() + text).isEmpty())
+            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+        EXPECT_FALSE(widget->objectName().isEmpty() && text.isEmpty())
+            << widget->metaObject()->className();
+    }
+    EXPECT_GT(controls, 8);
+}
+
+} // namespace
