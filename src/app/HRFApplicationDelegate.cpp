@@ -56,5 +56,9 @@ void HRFApplicationDelegate::close(HRFListWindow &window)
 
 void HRFApplicationDelegate::quit()
 {
-    m_documents.terminate([this] { Q_EMIT didTerminate(); });
+    m_documents.terminate([this] {
+        for (const auto &window : m_windows)
+            window->hide();
+        Q_EMIT didTerminate();
+    });
 }

@@ -79,12 +79,6 @@ int runWindows(const Options &options)
 
 int HRFRunDesktopProgram(int argc, char **argv)
 {
-    QApplication qtApplication(argc, argv);
-    QApplication::setApplicationName(u"lirra"_s);
-    QApplication::setApplicationDisplayName(u"Lirra"_s);
-    QApplication::setDesktopFileName(u"lirra"_s);
-    QApplication::setQuitOnLastWindowClosed(false); // the end may have to wait for work on files
-    QApplication::setWindowIcon(HRFIcons::named(u"lirra"_s));
     Options options;
     CLI::App app("Edits the tags of audio files.", "lirra");
     app.set_version_flag("--version", "lirra " LIRRA_VERSION);
@@ -99,6 +93,13 @@ int HRFRunDesktopProgram(int argc, char **argv)
         constexpr int wrongUsage = 2;
         return app.exit(stop) == 0 ? EXIT_SUCCESS : wrongUsage;
     }
+    int own = 1; // the rest is not for Qt
+    const QApplication qtApplication(own, argv);
+    QApplication::setApplicationName(u"lirra"_s);
+    QApplication::setApplicationDisplayName(u"Lirra"_s);
+    QApplication::setDesktopFileName(u"lirra"_s);
+    QApplication::setQuitOnLastWindowClosed(false); // the end may have to wait for work on files
+    QApplication::setWindowIcon(HRFIcons::named(u"lirra"_s));
     if (!options.configFile.empty())
         HRFUserDefaults::standard().setFilePath(decoded(options.configFile));
     return runWindows(options);

@@ -84,10 +84,13 @@ void HRFFilterMenu::makeWidgets()
 
 void HRFFilterMenu::showAt(const QPoint &corner)
 {
-    constexpr QSize size(300, 360);
+    constexpr int width = 300;
+    constexpr int highest = 400;
+    constexpr int heightOfRest = 110;
     const QRect room = screen()->availableGeometry();
-    resize(size);
-    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - width())),
+    const auto rows = int(std::min(m_values.size(), mostRows));
+    resize(width, std::min(heightOfRest + rows * fontMetrics().height(), highest));
+    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - width)),
          std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() - height())));
     show();
     m_search->setFocus();

@@ -28,7 +28,7 @@ public:
         QByteArray drawing = m_drawing;
         drawing.replace("currentColor", colour(mode).name().toLatin1());
         painter->save();
-        painter->setOpacity(mode == QIcon::Disabled ? disabledOpacity : 1);
+        painter->setOpacity(painter->opacity() * (mode == QIcon::Disabled ? disabledOpacity : 1));
         QSvgRenderer(drawing).render(painter, rectangle);
         painter->restore();
     }

@@ -30,8 +30,8 @@ constexpr int narrowest = 24;
 const QStringList &defaultLayout()
 {
     static const QStringList layout{
-        u"artwork:34"_s,     u"fileName:220"_s, u"title:200"_s, u"artist:160"_s, u"album:180"_s,
-        u"trackNumber:64"_s, u"year:60"_s,      u"genre:110"_s, u"rating:96"_s,  u"duration:80"_s};
+        u"artwork:32"_s,     u"fileName:210"_s, u"title:200"_s, u"artist:150"_s, u"album:170"_s,
+        u"trackNumber:64"_s, u"year:56"_s,      u"genre:100"_s, u"rating:92"_s,  u"duration:76"_s};
     return layout;
 }
 
@@ -178,15 +178,12 @@ void HRFListHeader::addColumnActions(QMenu &menu)
 
 void HRFListHeader::addSortActions(QMenu &menu)
 {
-    const HRFSortDescriptors &descriptors = m_controller.sortDescriptors();
     for (const int column : shownColumns()) {
-        const QString keyPath = keyPathOf(column);
-        if (keyPath.isEmpty())
+        if (keyPathOf(column).isEmpty())
             continue;
         QAction *action = menu.addAction(HRFListColumns::all()[std::size_t(column)].title);
         action->setCheckable(true);
-        action->setChecked(std::ranges::find(descriptors, keyPath, &HRFSortDescriptor::keyPath)
-                           != descriptors.end());
+        action->setChecked(isSortedBy(column));
         connect(action, &QAction::triggered, this, [this, column] { sortBy(column, false); });
     }
     menu.addSeparator();
@@ -201,12 +198,20 @@ QRect HRFListHeader::sectionRect(int column) const
     return {sectionViewportPosition(column), 0, sectionSize(column), height()};
 }
 
-/// Where the filter button of a column is.
+bool HRFListHeader::isSortedBy(int column) const
+{
+    const HRFSortDescriptors &descriptors = m_controller.sortDescriptors();
+    return std::ranges::find(descriptors, keyPathOf(column), &HRFSortDescriptor::keyPath)
+        != descriptors.end();
+}
+
+/// Where the filter button of a column is: at the end, but before the arrow.
 QRect HRFListHeader::filterRect(int column) const
 {
     const QRect section = sectionRect(column);
-    return {section.right() - sideMargin - buttonSize,
-            section.top() + (section.height() - buttonSize) / 2, buttonSize, buttonSize};
+    const int right = section.right() - (isSortedBy(column) ? sideMargin + arrowSize : 0);
+    return {right - sideMargin - buttonSize, section.top() + (section.height() - buttonSize) / 2,
+            buttonSize, buttonSize};
 }
 
 bool HRFListHeader::showsFilterButton(int column) const

@@ -52,6 +52,7 @@ private:
     void applyColumns(const QStringList &layout);
     QRect sectionRect(int column) const;
     QRect filterRect(int column) const;
+    bool isSortedBy(int column) const;
     bool showsFilterButton(int column) const;
     void setHoveredColumn(int column);
 

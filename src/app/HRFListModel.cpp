@@ -1,6 +1,5 @@
 #include "app/HRFListModel.h"
 
-#include "app/HRFFileURIs.h"
 #include "app/HRFListColumn.h"
 #include "app/HRFThumbnails.h"
 #include "document/HRFPlaylist.h"
@@ -9,7 +8,6 @@
 #include "store/HRFSystemFile.h"
 #include "tags/HRFTagValue.h"
 
-#include <QMimeData>
 #include <QPixmap>
 #include <QScopedValueRollback>
 
@@ -157,22 +155,6 @@ Qt::ItemFlags HRFListModel::flags(const QModelIndex &index) const
     else if (column.isEditable())
         flags |= Qt::ItemIsEditable;
     return flags;
-}
-
-QStringList HRFListModel::mimeTypes() const
-{
-    return {u"text/uri-list"_s};
-}
-
-QMimeData *HRFListModel::mimeData(const QModelIndexList &indexes) const
-{
-    std::vector<HRFFileReference> files;
-    int lastRow = -1;
-    for (const QModelIndex &index : indexes) // all of a row stand together
-        if (const int row = std::exchange(lastRow, index.row()); row != index.row())
-            if (const auto file = recordAt(index.row()).url())
-                files.push_back(*file);
-    return HRFFileURIs::mimeData(files).release();
 }
 
 std::vector<int> HRFListModel::rowsOf(const Records &records) const

@@ -1,12 +1,17 @@
 #include "app/HRFListView.h"
 
 #include "app/HRFCellDelegate.h"
+#include "app/HRFFileURIs.h"
+#include "app/HRFIcons.h"
 #include "app/HRFListHeader.h"
 #include "app/HRFListModel.h"
 #include "kit/HRFUserDefaults.h"
+#include "store/HRFMetaFile.h"
 
+#include <QDrag>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -25,7 +30,7 @@ constexpr int usualStep = 0;
 } // namespace
 
 HRFListView::HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *parent)
-    : QTableView(parent)
+    : QTableView(parent), m_model(model)
 {
     setObjectName(u"listView"_s);
     setAccessibleName(tr("Files"));
@@ -109,6 +114,29 @@ void HRFListView::keyPressEvent(QKeyEvent *event)
         editCurrent();
     else
         QTableView::keyPressEvent(event);
+}
+
+/// The list is one of rows: Home and End lead to the first and the last of them.
+QModelIndex HRFListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action != MoveHome && action != MoveEnd)
+        return QTableView::moveCursor(action, modifiers);
+    const int row = action == MoveHome ? 0 : m_model.rowCount() - 1;
+    return m_model.index(row, std::max(currentIndex().column(), 0));
+}
+
+/// The selected files, to be copied by whoever takes them.
+void HRFListView::startDrag(Qt::DropActions /*actions*/)
+{
+    std::vector<HRFFileReference> files;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            if (const auto file = m_model.recordAt(row).url())
+                files.push_back(*file);
+    auto *drag = new QDrag(this);
+    drag->setMimeData(HRFFileURIs::mimeData(files).release());
+    drag->setPixmap(HRFIcons::named(u"audio"_s).pixmap(32));
+    drag->exec(Qt::CopyAction);
 }
 
 /// Tab leads to the next cell that can be edited.

@@ -23,6 +23,8 @@ public:
     void editCurrent();
 
 protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void startDrag(Qt::DropActions actions) override;
     void keyPressEvent(QKeyEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
@@ -30,5 +32,6 @@ private:
     void editNext(int step);
     void setRowHeightStep(int step);
 
+    HRFListModel &m_model;
     int m_step = 0; ///< in the table of heights
 };

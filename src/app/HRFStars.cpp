@@ -84,7 +84,7 @@ HRFStarsEditor::HRFStarsEditor(QWidget *parent) : QWidget(parent)
 void HRFStarsEditor::setStars(int stars)
 {
     m_stars = std::clamp(stars, 0, HRFStars::most);
-    setAccessibleDescription(tr("%n star(s)", nullptr, m_stars));
+    setAccessibleDescription(m_stars == 1 ? tr("1 star") : tr("%1 stars").arg(m_stars));
     update();
 }
 

@@ -4,6 +4,8 @@
 #include "document/HRFPlaylist.h"
 #include "store/HRFValueTransformer.h"
 
+#include <QLocale>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,8 +26,10 @@ QString sumOf(const QString &name, const HRFArrayController::Records &records)
 HRFStatusLine::HRFStatusLine(HRFPlaylist &list, QWidget *parent) : QLabel(parent), m_list(list)
 {
     constexpr std::chrono::milliseconds rest(80);
+    constexpr int margin = 6;
     setObjectName(u"statusLine"_s);
     setAccessibleName(tr("Status"));
+    setContentsMargins(margin, 0, margin, 0);
     m_timer.setSingleShot(true);
     m_timer.setInterval(rest);
     connect(&m_timer, &QTimer::timeout, this, &HRFStatusLine::refresh);
@@ -46,11 +50,16 @@ void HRFStatusLine::refresh()
     if (shown.empty())
         return setText(m_list.fileController().hasFilter() ? tr("No file matches the filter")
                                                            : tr("No files"));
-    const QString count = tr("%n file(s)", nullptr, int(shown.size()));
+    const QLocale locale;
+    const QString count = shown.size() == 1
+        ? tr("1 file")
+        : tr("%1 files").arg(locale.toString(qulonglong(shown.size())));
     const bool isPart = selected.size() > 1 && selected.size() < shown.size();
     const auto &summed = isPart ? selected : shown;
-    QStringList parts{isPart ? tr("%1 of %2 selected").arg(selected.size()).arg(count) : count,
-                      sumOf(u"fileSize"_s, summed)};
+    QStringList parts{
+        isPart ? tr("%1 of %2 selected").arg(locale.toString(qulonglong(selected.size())), count)
+               : count,
+        sumOf(u"fileSize"_s, summed)};
     if (const QString duration = sumOf(u"duration"_s, summed); !duration.isEmpty())
         parts.append(duration);
     setText(parts.join(u"  ·  "_s));

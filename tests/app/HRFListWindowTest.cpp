@@ -17,8 +17,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QDropEvent>
+#include <QImage>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPointer>
@@ -299,6 +301,26 @@ TEST_F(HRFListWindowTest, stripsAfterAQuestion)
     EXPECT_EQ(onDisk(music(u"b.mp3"_s), HRFTagKey::title), QString());
     EXPECT_EQ(onDisk(music(u"a.mp3"_s), HRFTagKey::title), u"Two"_s);
     waitForWork();
+}
+
+TEST_F(HRFListWindowTest, loadsThumbnails)
+{
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    QImage image(600, 300, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    ASSERT_TRUE(image.save(&buffer, "PNG"));
+    makeFile(u"a.mp3"_s, {{HRFTagKey::artwork, picture}});
+    makeFile(u"b.mp3"_s, {{HRFTagKey::artwork, HRFSamplePNG}}); // cannot be decoded
+    dropFolder(2);
+    const auto thumbnail = [&](int row) {
+        return cell(row, u"artwork"_s).data(HRFListModel::Thumbnail).value<QPixmap>();
+    };
+    EXPECT_TRUE(thumbnail(1).isNull());
+    waitUntil([&] { return !thumbnail(0).isNull(); });
+    EXPECT_EQ(thumbnail(0).size(), QSize(HRFThumbnails::size, HRFThumbnails::size / 2));
+    EXPECT_EQ(thumbnail(0).toImage().pixelColor(5, 5), QColor(Qt::red));
+    EXPECT_TRUE(thumbnail(1).isNull());
 }
 
 TEST_F(HRFListWindowTest, closesListsAndEndsWithTheLast)
