@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
 #include <QPlainTextEdit>
@@ -96,6 +97,13 @@ QString HRFCellDelegate::displayText(const QVariant &value, const QLocale & /*lo
     return text;
 }
 
+void HRFCellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->displayAlignment & Qt::AlignRight)
+        option->text += QChar::Nbsp; // keeps away from the next column
+}
+
 void HRFCellDelegate::paintBackground(QPainter *painter, const QStyleOptionViewItem &option,
                                       const QModelIndex &index) const
 {
@@ -159,6 +167,9 @@ void HRFCellDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionVi
         const QRect whole = editor->parentWidget()->rect();
         rect.moveTo(std::max(0, std::min(rect.left(), whole.right() - rect.width())),
                     std::max(0, std::min(rect.top(), whole.bottom() - rect.height())));
+    } else if (qobject_cast<QLineEdit *>(editor)) {
+        const QSize line(rect.width(), std::min(rect.height(), editor->sizeHint().height() + 4));
+        rect = QStyle::alignedRect(option.direction, Qt::AlignVCenter, line, rect);
     }
     editor->setGeometry(rect);
 }

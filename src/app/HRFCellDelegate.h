@@ -28,6 +28,9 @@ public:
                    const QModelIndex &index) override;
     bool eventFilter(QObject *editor, QEvent *event) override;
 
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
 private:
     void paintBackground(QPainter *painter, const QStyleOptionViewItem &option,
                          const QModelIndex &index) const;

@@ -25,6 +25,7 @@ constexpr int buttonSize = 16;
 constexpr int arrowSize = 10;
 constexpr int sideMargin = 5;
 constexpr int narrowest = 24;
+constexpr int usualWidth = 120;
 
 /// The columns of a new list, as they are remembered: "NAME:WIDTH".
 const QStringList &defaultLayout()
@@ -53,6 +54,7 @@ HRFListHeader::HRFListHeader(HRFArrayController &controller, QWidget *parent)
     setFirstSectionMovable(true);
     setSectionsClickable(true);
     setHighlightSections(false);
+    setStretchLastSection(true);
     setMinimumSectionSize(narrowest);
     setTextElideMode(Qt::ElideRight);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -104,9 +106,13 @@ void HRFListHeader::rememberColumns() const
     if (m_isRestoring)
         return;
     QStringList layout;
-    for (const int column : shownColumns())
-        layout += u"%1:%2"_s.arg(HRFListColumns::all()[std::size_t(column)].name)
-                      .arg(sectionSize(column));
+    const std::vector<int> shown = shownColumns();
+    for (const int column : shown) {
+        // The last one takes all the room that is left, which says nothing.
+        const int width = column == shown.back() ? std::min(sectionSize(column), usualWidth)
+                                                 : sectionSize(column);
+        layout += u"%1:%2"_s.arg(HRFListColumns::all()[std::size_t(column)].name).arg(width);
+    }
     HRFUserDefaults::standard().setValueForKey(layout.join(u' '), settingKey);
 }
 
@@ -126,10 +132,9 @@ void HRFListHeader::setColumnShown(int column, bool isShown)
         return; // something must be left
     setSectionHidden(column, !isShown);
     if (isShown) {
-        constexpr int widthOfNew = 120;
         moveSection(visualIndex(column), int(shown.size()));
-        if (sectionSize(column) < widthOfNew)
-            resizeSection(column, widthOfNew);
+        if (sectionSize(column) < usualWidth)
+            resizeSection(column, usualWidth);
     }
     rememberColumns();
     Q_EMIT shownColumnsDidChange();
@@ -237,6 +242,8 @@ void HRFListHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int colu
     if (showsFilterButton(column))
         room -= buttonSize + sideMargin;
     option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room);
+    if (option->textAlignment & Qt::AlignRight)
+        option->text += QChar::Nbsp; // keeps away from the next title
 }
 
 void HRFListHeader::paintSection(QPainter *painter, const QRect &rect, int column) const

@@ -3,6 +3,7 @@
 #include "app/HRFCellDelegate.h"
 #include "app/HRFFileURIs.h"
 #include "app/HRFIcons.h"
+#include "app/HRFListColumn.h"
 #include "app/HRFListHeader.h"
 #include "app/HRFListModel.h"
 #include "kit/HRFUserDefaults.h"
@@ -78,6 +79,8 @@ void HRFListView::zoom(int steps)
         return;
     setRowHeightStep(steps == 0 ? usualStep : m_step + steps);
     HRFUserDefaults::standard().setValueForKey(heights[std::size_t(m_step)], heightKey);
+    constexpr int padding = 8;
+    horizontalHeader()->resizeSection(HRFListColumns::indexOf(u"artwork"_s), rowHeight() + padding);
     scrollToSelection();
 }
 
