@@ -37,15 +37,7 @@ QImage readThumbnail(const QString &fileURL)
 
 } // namespace
 
-HRFThumbnails::HRFThumbnails() : m_cache(cacheBytes)
-{
-    m_pool.setMaxThreadCount(threadCount);
-}
-
-HRFThumbnails::~HRFThumbnails()
-{
-    m_pool.waitForDone();
-}
+HRFThumbnails::HRFThumbnails() : m_cache(cacheBytes) { }
 
 QPixmap HRFThumbnails::thumbnail(const QString &digest, const QString &fileURL)
 {
@@ -72,11 +64,11 @@ void HRFThumbnails::startLoading()
         const Request next = std::move(m_waiting.front());
         m_waiting.pop_front();
         ++m_running;
-        m_pool.start([reference = m_weakSelf.reference(), next] {
+        m_reading.run([reference = m_weakSelf.reference(), next] {
             QImage image;
             HRFMainThread::runLoggingFailures([&] { image = readThumbnail(next.fileURL); });
             HRFMainThread::run(
-                [reference, digest = next.digest, image] {
+                [reference, digest = next.digest, image = std::move(image)] {
                     if (HRFThumbnails *self = reference.get())
                         self->take(digest, image);
                 },

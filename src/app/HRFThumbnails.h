@@ -1,12 +1,12 @@
 #pragma once
 
+#include "kit/HRFBackground.h"
 #include "kit/HRFWeakSelf.h"
 
 #include <QCache>
 #include <QObject>
 #include <QPixmap>
 #include <QSet>
-#include <QThreadPool>
 
 #include <deque>
 
@@ -20,7 +20,6 @@ public:
     static constexpr int size = 128;
 
     HRFThumbnails();
-    ~HRFThumbnails() override;
 
     /// The picture with a digest; null when there is none, or not yet: then it is read from the
     /// file with the URL.
@@ -44,6 +43,6 @@ private:
     std::deque<Request> m_waiting;
     QSet<QString> m_requested; ///< waiting or being read
     int m_running = 0;
-    QThreadPool m_pool;
+    HRFBackgroundGroup m_reading;
     const HRFWeakSelf<HRFThumbnails> m_weakSelf{this};
 };
