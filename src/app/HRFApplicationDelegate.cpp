@@ -17,6 +17,8 @@ HRFListWindow &HRFApplicationDelegate::newList()
 {
     HRFPlaylist &list = m_documents.newDocument();
     m_windows.push_back(std::make_unique<HRFListWindow>(list, *this));
+    if (++m_listCount > 1)
+        m_windows.back()->setWindowTitle(tr("Lirra %1").arg(m_listCount));
     list.setWindow(m_windows.back().get());
     m_documents.setCurrentDocument(&list);
     m_windows.back()->showWindows();

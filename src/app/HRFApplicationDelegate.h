@@ -35,4 +35,5 @@ Q_SIGNALS:
 private:
     HRFDocumentController m_documents;
     std::vector<std::unique_ptr<HRFListWindow>> m_windows;
+    int m_listCount = 0; ///< of all that there have been
 };

@@ -137,12 +137,13 @@ QWidget *HRFCellDelegate::createEditor(QWidget *parent, const QStyleOptionViewIt
     QWidget *editor = HRFMakeCellEditor(column, index.data(Qt::EditRole), parent);
     editor->setObjectName(u"cellEditor"_s);
     editor->setAccessibleName(column.title);
-    if (auto *stars = qobject_cast<HRFStarsEditor *>(editor))
-        connect(stars, &HRFStarsEditor::editingFinished, this, [this, stars] {
-            auto *self = const_cast<HRFCellDelegate *>(this);
+    if (auto *stars = qobject_cast<HRFStarsEditor *>(editor)) {
+        auto *self = const_cast<HRFCellDelegate *>(this); // as the base class does for its signals
+        connect(stars, &HRFStarsEditor::editingFinished, self, [self, stars] {
             Q_EMIT self->commitData(stars);
             Q_EMIT self->closeEditor(stars);
         });
+    }
     return editor;
 }
 

@@ -153,11 +153,12 @@ void HRFFilterMenu::itemDidChange(const QStandardItem &item)
 void HRFFilterMenu::allowFound(bool isAllowed)
 {
     HRFListFilter::Texts texts = m_allowed;
-    for (const HRFListFilter::Value *value : m_found)
+    for (const HRFListFilter::Value *value : m_found) {
         if (isAllowed)
             texts.insert(value->text);
         else
             texts.remove(value->text);
+    }
     allow(texts);
     showFoundValues();
 }

@@ -34,13 +34,14 @@ std::vector<HRFListColumn> makeColumns()
     std::vector<HRFListColumn> columns{
         {.name = u"artwork"_s, .title = tr("Artwork"), .kind = Kind::Thumbnail, .values = {}}};
     const HRFAttributeManager &catalogue = HRFAttributeManager::sharedManager();
-    for (const QString &entity : catalogue.orderedEntityNames())
-        for (const HRFAttributeDescription *attribute :
-             catalogue.attributesByEntityName().value(entity))
+    for (const QString &entity : catalogue.orderedEntityNames()) {
+        for (const auto *attribute : catalogue.attributesByEntityName().value(entity)) {
             columns.push_back({.name = attribute->name,
                                .title = attribute->displayName(),
                                .kind = kindOf(*attribute),
                                .values = HRFRecordColumn(*attribute)});
+        }
+    }
     return columns;
 }
 
@@ -79,6 +80,11 @@ bool HRFListColumn::isEditable() const
 bool HRFListColumn::isQuantity() const
 {
     return kind == HRFListColumnKind::Number;
+}
+
+QVariant HRFListColumn::value(const HRFMetaFile &file) const
+{
+    return values ? values->value(file) : QVariant();
 }
 
 QString HRFListColumn::text(const HRFMetaFile &file) const

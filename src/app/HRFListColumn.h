@@ -21,6 +21,8 @@ struct HRFListColumn
     /// A number of something: it stands on the right.
     bool isQuantity() const;
 
+    /// No value for the picture.
+    QVariant value(const HRFMetaFile &file) const;
     /// The value as one line of text, whatever the column's cells look like.
     QString text(const HRFMetaFile &file) const;
 };

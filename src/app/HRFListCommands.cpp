@@ -19,7 +19,7 @@ namespace {
 
 struct CommandRow
 {
-    const char *menu;
+    const char *menu = "";
     QLatin1StringView name; ///< the action's object name; nothing for a separator
     const char *text = "";
     const char *shortcut = "";
@@ -186,11 +186,12 @@ void HRFListCommands::addRecentFolders(QMenu &menu)
     connect(&menu, &QMenu::aboutToShow, folders, [this, folders] {
         folders->clear();
         const QStringList paths = HRFDocumentController::shared().recentDocuments();
-        for (const QString &path : paths)
-            connect(folders->addAction(QString(path).replace(u'&', u"&&"_s)), &QAction::triggered,
-                    &m_window, [this, path] {
-                        m_window.document().importFileAtPath(HRFFileReference::fromPath(path));
-                    });
+        for (const QString &path : paths) {
+            const QAction *action = folders->addAction(QString(path).replace(u'&', u"&&"_s));
+            connect(action, &QAction::triggered, &m_window, [this, path] {
+                m_window.document().importFileAtPath(HRFFileReference::fromPath(path));
+            });
+        }
         folders->setEnabled(!paths.isEmpty());
     });
 }

@@ -75,7 +75,7 @@ HRFRecordFilter HRFListFilter::makeFilter(int withoutColumn) const
     for (const int column : m_searched)
         if (const HRFAttributeDescription *attribute = columnAt(column).attribute())
             searched.push_back(attribute);
-    const HRFRecordFilter hasWords = HRFRecordFilterForWords(m_words, searched);
+    HRFRecordFilter hasWords = HRFRecordFilterForWords(m_words, searched);
     std::vector<std::pair<const HRFListColumn *, Texts>> allowed;
     for (auto entry = m_allowed.begin(); entry != m_allowed.end(); ++entry)
         if (entry.key() != withoutColumn)

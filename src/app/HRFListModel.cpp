@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <ranges>
 #include <unordered_set>
 
 using namespace Qt::StringLiterals;
@@ -46,7 +47,7 @@ QVariant displayed(const HRFListColumn &column, const HRFMetaFile &file)
 /// Names are edited as they are shown, with "/".
 QVariant edited(const HRFListColumn &column, const HRFMetaFile &file)
 {
-    return column.attribute()->isFilename() ? column.text(file) : column.values->value(file);
+    return column.attribute()->isFilename() ? column.text(file) : column.value(file);
 }
 
 } // namespace
@@ -85,10 +86,10 @@ QVariant HRFListModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return edited(column, file);
     case Raw:
-        return column.values->value(file);
+        return column.value(file);
     case Qt::CheckStateRole:
         return column.kind == Kind::CheckBox
-            ? QVariant(column.values->value(file).toBool() ? Qt::Checked : Qt::Unchecked)
+            ? QVariant(column.value(file).toBool() ? Qt::Checked : Qt::Unchecked)
             : QVariant();
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignVCenter | (column.isQuantity() ? Qt::AlignRight : Qt::AlignLeft));
@@ -108,11 +109,11 @@ bool HRFListModel::setData(const QModelIndex &index, const QVariant &value, int 
     const HRFListColumn &column = columnAt(index.column());
     if (!column.isEditable() || (role != Qt::EditRole && role != Qt::CheckStateRole))
         return false;
-    HRFMetaFile &file = recordAt(index.row());
+    const HRFMetaFile &file = recordAt(index.row());
     const QVariant given =
         role == Qt::CheckStateRole ? QVariant(value.toInt() == Qt::Checked) : value;
     const HRFAttributeDescription &attribute = *column.attribute();
-    if (HRFTagValue::isNothing(given) ? !column.values->value(file).isValid()
+    if (HRFTagValue::isNothing(given) ? !column.value(file).isValid()
                                       : given == edited(column, file))
         return true; // nothing changes
     if (attribute.entity->name == HRFMetaTags::entityName()) {
@@ -192,9 +193,9 @@ void HRFListModel::insertRanges(const std::vector<HRFRowRange> &ranges, const Re
 
 void HRFListModel::removeRanges(const std::vector<HRFRowRange> &ranges)
 {
-    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
-        beginRemoveRows({}, range->first, range->last);
-        m_records.erase(m_records.begin() + range->first, m_records.begin() + range->last + 1);
+    for (const HRFRowRange range : std::views::reverse(ranges)) {
+        beginRemoveRows({}, range.first, range.last);
+        m_records.erase(m_records.begin() + range.first, m_records.begin() + range.last + 1);
         endRemoveRows();
     }
 }

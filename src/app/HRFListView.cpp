@@ -132,10 +132,11 @@ QModelIndex HRFListView::moveCursor(CursorAction action, Qt::KeyboardModifiers m
 void HRFListView::startDrag(Qt::DropActions /*actions*/)
 {
     std::vector<HRFFileReference> files;
-    for (const QItemSelectionRange &range : selectionModel()->selection())
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row)
             if (const auto file = m_model.recordAt(row).url())
                 files.push_back(*file);
+    }
     auto *drag = new QDrag(this);
     drag->setMimeData(HRFFileURIs::mimeData(files).release());
     drag->setPixmap(HRFIcons::named(u"audio"_s).pixmap(32));

@@ -22,6 +22,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -54,7 +55,7 @@ HRFListWindow::HRFListWindow(HRFPlaylist &list, HRFApplicationDelegate &applicat
     filterDidChange();
     showHintIfEmpty();
     m_commands->validate();
-    focusInitialControl();
+    m_view->setFocus();
 }
 
 HRFListWindow::~HRFListWindow() = default;
@@ -103,11 +104,17 @@ void HRFListWindow::makeFilterField(QToolBar &bar)
     m_filterField->setMaximumWidth(width);
     m_filterField->setMinimumWidth(width / 2);
     bar.addWidget(m_filterField);
+    connect(m_filterField, &QLineEdit::returnPressed, this, &HRFListWindow::focusInitialControl);
+    auto *escape = new QShortcut(Qt::Key_Escape, m_filterField, {}, {}, Qt::WidgetShortcut);
+    connect(escape, &QShortcut::activated, this, [this] {
+        m_filterField->clear();
+        focusInitialControl();
+    });
 }
 
 void HRFListWindow::connectDocument()
 {
-    HRFArrayController &files = m_list.fileController();
+    const HRFArrayController &files = m_list.fileController();
     const QUndoStack &undo = m_list.undoManager();
     m_validation.setSingleShot(true);
     m_validation.setInterval(0);
@@ -145,13 +152,14 @@ void HRFListWindow::showFilterMenu(int column, const QPoint &corner)
 void HRFListWindow::showHintIfEmpty()
 {
     m_hint->setVisible(m_model->rowCount() == 0);
-    if (m_list.fileController().hasFilter())
+    if (m_list.fileController().hasFilter()) {
         m_hint->setText(tr("No matching files"), tr("Change the filter to see more files."));
-    else
-        m_hint->setText(tr("Drop files or folders here"),
-                        tr("or choose Add Files (%1) or Add Folder (%2)")
-                            .arg(m_commands ? m_commands->shortcutOf(u"addFiles"_s) : QString(),
-                                 m_commands ? m_commands->shortcutOf(u"addFolder"_s) : QString()));
+        return;
+    }
+    m_hint->setText(
+        tr("Drop files or folders here"),
+        tr("or choose Add Files (%1) or Add Folder (%2)")
+            .arg(m_commands->shortcutOf(u"addFiles"_s), m_commands->shortcutOf(u"addFolder"_s)));
 }
 
 void HRFListWindow::showRowMenu(const QPoint &position)

@@ -62,11 +62,11 @@ void paint(QPainter &painter, const QRect &cell, int stars, bool isSelected)
 
 int starAt(const QRect &cell, QPoint place)
 {
-    for (int number = 1; number <= most; ++number)
-        if (starRect(cell, number)
-                .adjusted(0, -cell.height(), starSpace, cell.height())
-                .contains(place))
+    for (int number = 1; number <= most; ++number) {
+        const QRect star = starRect(cell, number);
+        if (place.x() >= star.left() && place.x() <= star.right() + starSpace)
             return number;
+    }
     return 0;
 }
 

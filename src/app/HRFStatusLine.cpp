@@ -13,12 +13,11 @@ namespace {
 /// The sum of an attribute, as its values are shown.
 QString sumOf(const QString &name, const HRFArrayController::Records &records)
 {
-    const HRFRecordColumn &values =
-        *HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))].values;
+    const HRFListColumn &column = HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))];
     qlonglong sum = 0;
     for (const HRFMetaFile *record : records)
-        sum += values.value(*record).toLongLong();
-    return HRFTransformedValue(values.attribute().displayValueTransformerName(), sum);
+        sum += column.value(*record).toLongLong();
+    return HRFTransformedValue(column.attribute()->displayValueTransformerName(), sum);
 }
 
 } // namespace

@@ -41,9 +41,10 @@ protected:
         QDir().mkpath(path(u"music"_s));
         open();
     }
-    ~HRFListWindowTest() override
+    void TearDown() override
     {
         close();
+        HRFTestWithApplication::TearDown();
         HRFUserDefaults::standard().setFilePath({});
     }
 

@@ -1,5 +1,7 @@
 // What libraries that are not built with the sanitizers do is not reported.
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizers look for these names.
+
 extern "C" const char *__lsan_default_suppressions();
 extern "C" const char *__tsan_default_suppressions();
 
@@ -14,3 +16,5 @@ extern "C" const char *__tsan_default_suppressions()
 {
     return "called_from_lib:libQt6Gui.so\ncalled_from_lib:libQt6Core.so\n";
 }
+
+// NOLINTEND(bugprone-reserved-identifier)
