@@ -101,10 +101,23 @@ void HRFStarsEditor::mousePressEvent(QMouseEvent *event)
     Q_EMIT editingFinished();
 }
 
+/// Delete is meant for the stars, not for the file in the list.
+bool HRFStarsEditor::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride
+        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void HRFStarsEditor::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_0 + HRFStars::most)
         setStars(event->key() - Qt::Key_0);
+    else if (event->key() == Qt::Key_Delete)
+        setStars(0);
     else if (event->key() == Qt::Key_Left)
         setStars(m_stars - 1);
     else if (event->key() == Qt::Key_Right)

@@ -17,7 +17,8 @@ int starAt(const QRect &cell, QPoint place);
 
 } // namespace HRFStars
 
-/// Lets the user choose a number of stars, by a click or by the keys 0 to 5, Left and Right.
+/// Lets the user choose a number of stars, by a click or by the keys 0 to 5, Left, Right and
+/// Delete.
 class HRFStarsEditor : public QWidget
 {
     Q_OBJECT
@@ -31,6 +32,7 @@ Q_SIGNALS:
     void editingFinished();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

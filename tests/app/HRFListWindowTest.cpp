@@ -202,6 +202,11 @@ TEST_F(HRFListWindowTest, takesOnlyValuesOfTheColumn)
         EXPECT_EQ(cell(0, test.column).data(HRFListModel::Raw), test.expected)
             << test.column.toStdString() << " " << test.typed.toStdString();
     }
+    click(cell(0, u"rating"_s));
+    window->commands().action(u"editCell"_s)->trigger();
+    QTest::keyClick(window->findChild<QWidget *>(u"cellEditor"_s), Qt::Key_Delete);
+    EXPECT_EQ(window->model().rowCount(), 1); // the key is for the stars
+    QTest::keyClick(window->findChild<QWidget *>(u"cellEditor"_s), Qt::Key_Escape);
     window->header().setColumnShown(column(u"isPartOfACompilation"_s), true);
     click(cell(0, u"isPartOfACompilation"_s));
     EXPECT_EQ(cell(0, u"isPartOfACompilation"_s).data(HRFListModel::Raw), true);
