@@ -1,6 +1,7 @@
 #include "app/HRFApplicationDelegate.h"
 
 #include "app/HRFListWindow.h"
+#include "app/HRFPreferencesWindow.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFAssert.h"
 
@@ -42,6 +43,13 @@ void HRFApplicationDelegate::open(const std::vector<HRFFileReference> &paths)
         window.document().importFilesAtPaths(paths);
 }
 
+void HRFApplicationDelegate::showPreferences()
+{
+    if (!m_preferences)
+        m_preferences = std::make_unique<HRFPreferencesWindow>();
+    m_preferences->present();
+}
+
 void HRFApplicationDelegate::close(HRFListWindow &window)
 {
     if (m_windows.size() < 2)
@@ -61,6 +69,7 @@ void HRFApplicationDelegate::quit()
     m_documents.terminate([this] {
         for (const auto &window : m_windows)
             window->hide();
+        m_preferences.reset();
         Q_EMIT didTerminate();
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/HRFTaggingSettings.h"
 #include "document/HRFDocumentController.h"
 #include "kit/HRFFileReference.h"
 
@@ -7,6 +8,7 @@
 #include <vector>
 
 class HRFListWindow;
+class HRFPreferencesWindow;
 
 /// The desktop application: its documents and their windows, from the first to the last.
 class HRFApplicationDelegate : public QObject
@@ -23,6 +25,8 @@ public:
     /// Adds files and folders to the current list, and brings it to the front.
     void open(const std::vector<HRFFileReference> &paths);
 
+    void showPreferences();
+
     /// Closes a list's window, or ends the program when it is the last one.
     void close(HRFListWindow &window);
     /// Ends the program as soon as no work on files is pending.
@@ -34,6 +38,8 @@ Q_SIGNALS:
 
 private:
     HRFDocumentController m_documents;
+    HRFTaggingSettings m_taggingSettings;
     std::vector<std::unique_ptr<HRFListWindow>> m_windows;
+    std::unique_ptr<HRFPreferencesWindow> m_preferences; ///< made when it is asked for
     int m_listCount = 0; ///< of all that there have been
 };

@@ -89,6 +89,9 @@ const CommandRow rows[] = {
     {edit, "clearFilter"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Sho&w All Files"),
      "Ctrl+Shift+A", "", QT_TRANSLATE_NOOP("HRFListCommands", "Take all filters away"),
      &Window::clearFilters, &Window::hasFilter},
+    {edit, ""_L1},
+    {edit, "preferences"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Pr&eferences…"), "Ctrl+,", "",
+     "", &Window::showPreferences},
 
     {tags, "editCell"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "&Edit Value"), "F2", "",
      QT_TRANSLATE_NOOP("HRFListCommands", "Edit the current cell"), &Window::editCell,
@@ -130,6 +133,7 @@ HRFListCommands::HRFListCommands(HRFListWindow &window) : QObject(&window), m_wi
         if (rows[row].perform)
             m_actions.insert(rows[row].name, makeAction(row));
     m_actions.value(u"quit"_s)->setMenuRole(QAction::QuitRole);
+    m_actions.value(u"preferences"_s)->setMenuRole(QAction::PreferencesRole);
     m_actions.value(u"about"_s)->setMenuRole(QAction::AboutRole);
 }
 

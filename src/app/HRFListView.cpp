@@ -57,6 +57,16 @@ HRFListView::HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *pa
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
+    connect(&HRFUserDefaults::standard(), &HRFUserDefaults::valueChanged, this,
+            [this](const QString &key) {
+                if (key == heightKey)
+                    rowHeightDidChange();
+            });
+    restoreRowHeight();
+}
+
+void HRFListView::restoreRowHeight()
+{
     const auto *remembered =
         std::ranges::find(heights, int(HRFUserDefaults::standard().integerForKey(heightKey)));
     setRowHeightStep(remembered == heights.end() ? usualStep : int(remembered - heights.begin()));
@@ -77,8 +87,14 @@ void HRFListView::zoom(int steps)
 {
     if (!canZoom(steps))
         return;
-    setRowHeightStep(steps == 0 ? usualStep : m_step + steps);
-    HRFUserDefaults::standard().setValueForKey(heights[std::size_t(m_step)], heightKey);
+    const int step = steps == 0 ? usualStep : m_step + steps;
+    HRFUserDefaults::standard().setValueForKey(heights[std::size_t(step)], heightKey);
+}
+
+/// Here or in the preferences.
+void HRFListView::rowHeightDidChange()
+{
+    restoreRowHeight();
     constexpr int padding = 8;
     horizontalHeader()->resizeSection(HRFListColumns::indexOf(u"artwork"_s), rowHeight() + padding);
     scrollToSelection();

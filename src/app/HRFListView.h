@@ -30,6 +30,8 @@ protected:
 
 private:
     void editNext(int step);
+    void restoreRowHeight();
+    void rowHeightDidChange();
     void setRowHeightStep(int step);
 
     HRFListModel &m_model;

@@ -123,6 +123,11 @@ void HRFListWindow::clearFilters()
     m_filter->clear();
 }
 
+void HRFListWindow::showPreferences()
+{
+    m_application.showPreferences();
+}
+
 void HRFListWindow::editCell()
 {
     m_view->editCurrent();

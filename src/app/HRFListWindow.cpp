@@ -1,6 +1,7 @@
 #include "app/HRFListWindow.h"
 
 #include "app/HRFApplicationDelegate.h"
+#include "app/HRFDebugMenu.h"
 #include "app/HRFEmptyListHint.h"
 #include "app/HRFFileURIs.h"
 #include "app/HRFFilterMenu.h"
@@ -78,6 +79,8 @@ void HRFListWindow::makeBars()
     m_commands = new HRFListCommands(*this);
     menuBar()->setObjectName(u"menuBar"_s);
     m_commands->fill(*menuBar());
+    QAction *help = menuBar()->actions().constLast();
+    menuBar()->insertMenu(help, new HRFDebugMenu(m_application, menuBar()));
     QToolBar *bar = addToolBar(tr("Tool Bar"));
     bar->setObjectName(u"toolBar"_s);
     bar->setMovable(false);
@@ -125,6 +128,8 @@ void HRFListWindow::connectDocument()
         validateSoon();
     });
     connect(&undo, &QUndoStack::indexChanged, this, &HRFListWindow::validateSoon);
+    connect(&HRFUserDefaults::standard(), &HRFUserDefaults::valueChanged, this,
+            &HRFListWindow::validateSoon);
     connect(m_filterField, &QLineEdit::textChanged, m_filter, &HRFListFilter::setWords);
     connect(m_filter, &HRFListFilter::didChange, this, &HRFListWindow::filterDidChange);
     connect(m_header, &HRFListHeader::filterRequested, this, &HRFListWindow::showFilterMenu);

@@ -62,6 +62,7 @@ public:
     void focusFilterField();
     void filterCurrentColumn();
     void clearFilters();
+    void showPreferences();
     void editCell();
     void strip();
     void makeRowsHigher();

@@ -196,6 +196,15 @@ void HRFUserDefaults::setValueForKey(const QVariant &value, const QString &key)
         Q_EMIT valueChanged(key);
 }
 
+void HRFUserDefaults::removeUserValues()
+{
+    std::unique_lock lock(m_mutex);
+    const QStringList keys = m_userValues.keys();
+    lock.unlock();
+    for (const QString &key : keys)
+        setValueForKey({}, key);
+}
+
 void HRFUserDefaults::setOverride(const QVariant &value, const QString &key)
 {
     std::unique_lock lock(m_mutex);

@@ -43,6 +43,9 @@ public:
     /// must consist of more than slashes (assertion "key.isNotEmpty").
     void setValueForKey(const QVariant &value, const QString &key);
 
+    /// Takes every value out of the user's settings file.
+    void removeUserValues();
+
     /// Sets a value for this process only; an invalid QVariant takes the override away.
     void setOverride(const QVariant &value, const QString &key);
 
