@@ -52,7 +52,7 @@ void notify(const QString &title, const QString &text)
     QDBusMessage call = QDBusMessage::createMethodCall(
         u"org.freedesktop.Notifications"_s, u"/org/freedesktop/Notifications"_s,
         u"org.freedesktop.Notifications"_s, u"Notify"_s);
-    call.setArguments({QGuiApplication::applicationDisplayName(), 0U, u"lirra"_s, title, text,
+    call.setArguments({QGuiApplication::applicationDisplayName(), 0U, u"com.harrowfield.lirra"_s, title, text,
                        QStringList(), QVariantMap(), usualTime});
     QDBusConnection::sessionBus().asyncCall(call);
 }

@@ -3,6 +3,7 @@
 #include "app/HRFApplicationDelegate.h"
 #include "app/HRFIcons.h"
 #include "app/HRFInstance.h"
+#include "app/HRFTranslations.h"
 #include "app/HRFWidgetsInteraction.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFBackground.h"
@@ -95,9 +96,10 @@ int HRFRunDesktopProgram(int argc, char **argv)
     }
     int own = 1; // the rest is not for Qt
     const QApplication qtApplication(own, argv);
+    HRFTranslations::install();
     QApplication::setApplicationName(u"lirra"_s);
     QApplication::setApplicationDisplayName(u"Lirra"_s);
-    QApplication::setDesktopFileName(u"lirra"_s);
+    QApplication::setDesktopFileName(u"com.harrowfield.lirra"_s);
     QApplication::setQuitOnLastWindowClosed(false); // the end may have to wait for work on files
     QApplication::setWindowIcon(HRFIcons::named(u"lirra"_s));
     if (!options.configFile.empty())

@@ -6,6 +6,8 @@
 #include "tags/HRFMapManager.h"
 #include "tags/HRFTagKey.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -80,5 +82,6 @@ QString HRFAttributeDescription::localizedName() const
 
 QString HRFAttributeDescription::localizedDescription() const
 {
-    return HRFMapManager::frameDescriptions().value(name);
+    const QString text = HRFMapManager::frameDescriptions().value(name);
+    return QCoreApplication::translate("HRFFrameDescriptions", text.toUtf8().constData());
 }

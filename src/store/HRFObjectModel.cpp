@@ -1,5 +1,6 @@
 #include "store/HRFObjectModel.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -108,7 +109,9 @@ QString HRFEntityDescription::localizedNameForPropertyKey(const QString &attribu
 {
     const QHash<QString, QString> &names = model->localizationDictionary();
     const QString general = u"Property/%1"_s.arg(attributeName);
-    return names.value(u"%1/Entity/%2"_s.arg(general, name), names.value(general, attributeName));
+    const QString text =
+        names.value(u"%1/Entity/%2"_s.arg(general, name), names.value(general, attributeName));
+    return QCoreApplication::translate("HRFAttributeNames", text.toUtf8().constData());
 }
 
 HRFResult<std::shared_ptr<const HRFObjectModel>> HRFObjectModel::fromFile(const QString &path)
