@@ -52,8 +52,8 @@ void notify(const QString &title, const QString &text)
     QDBusMessage call = QDBusMessage::createMethodCall(
         u"org.freedesktop.Notifications"_s, u"/org/freedesktop/Notifications"_s,
         u"org.freedesktop.Notifications"_s, u"Notify"_s);
-    call.setArguments({QGuiApplication::applicationDisplayName(), 0U, u"com.harrowfield.lirra"_s, title, text,
-                       QStringList(), QVariantMap(), usualTime});
+    call.setArguments({QGuiApplication::applicationDisplayName(), 0U, u"com.harrowfield.lirra"_s,
+                       title, text, QStringList(), QVariantMap(), usualTime});
     QDBusConnection::sessionBus().asyncCall(call);
 }
 
