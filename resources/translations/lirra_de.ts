@@ -104,7 +104,7 @@
     </message>
     <message>
         <source>Track</source>
-        <translation>Titelnummer</translation>
+        <translation>Titelnr.</translation>
     </message>
     <message>
         <source>Track Total</source>
@@ -1621,7 +1621,7 @@
     </message>
     <message>
         <source>The files also stay where they are.</source>
-        <translation>Die Dateien bleiben auch, wo sie sind.</translation>
+        <translation>Die Dateien bleiben zugleich, wo sie sind.</translation>
     </message>
     <message>
         <source>Take other files along</source>
