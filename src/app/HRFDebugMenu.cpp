@@ -28,10 +28,10 @@ void resetAll()
 
 constexpr struct
 {
-    QLatin1StringView name;
-    const char *text;
-    void (*reset)();
-    bool endsProgram; ///< a store that was reset cannot be used any more
+    QLatin1StringView name{};
+    const char *text = nullptr;
+    void (*reset)() = nullptr;
+    bool endsProgram = false; ///< a store that was reset cannot be used any more
 } commands[] = {
     {"dropDatabases"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Drop Databases"), &dropStores, true},
     {"dropAttributes"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Drop Attributes"), &dropStores, true},

@@ -22,9 +22,9 @@ struct HRFPreferenceChoice
 struct HRFPreferenceRow
 {
     HRFPreferencePane pane;
+    HRFPreferenceKind kind;
     const char *group;
     const char *key;
-    HRFPreferenceKind kind;
     const char *label;
     const char *explanation;
     std::span<const HRFPreferenceChoice> choices = {};

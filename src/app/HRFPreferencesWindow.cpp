@@ -85,7 +85,7 @@ void HRFPreferencesWindow::addGroups(HRFPreferencePane pane, QBoxLayout &layout)
     for (const HRFPreferenceRow &row : HRFPreferenceRows()) {
         if (row.pane != pane)
             continue;
-        if (row.group != title) {
+        if (!group || row.group != title) {
             title = row.group;
             group = new QGroupBox(QCoreApplication::translate("HRFPreferences", title));
             (new QVBoxLayout(group))->setSpacing(gap);

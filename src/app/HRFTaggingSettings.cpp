@@ -11,8 +11,8 @@ namespace {
 
 constexpr struct
 {
-    QLatin1StringView key;
-    void (*apply)();
+    QLatin1StringView key{};
+    void (*apply)() = nullptr;
 } effects[] = {
     {"lirra.tagging.ID3v2Version"_L1, &ID3MetaData::registerStringEncodingPreference},
     {"lirra.tagging.iTunesID3v2Compatibility"_L1,

@@ -99,7 +99,7 @@ TEST_F(HRFPreferencesTest, storesEveryChangeAndRestoresDefaults)
     QStringList before;
     QStringList changed;
     {
-        HRFPreferencesWindow window;
+        const HRFPreferencesWindow window;
         before = shown(window);
         for (QWidget *input : inputs(window))
             change(input);
@@ -164,7 +164,7 @@ TEST_F(HRFPreferencesTest, appliesAnEncodingBehindTheWorkThatIsQueued)
 TEST_F(HRFPreferencesTest, opensOneWindowAndReachesOpenLists)
 {
     HRFApplicationDelegate application;
-    HRFListWindow &list = application.newList();
+    const HRFListWindow &list = application.newList();
     for (int i = 0; i < 2; ++i)
         list.commands().action(u"preferences"_s)->trigger();
     QList<HRFPreferencesWindow *> windows;
