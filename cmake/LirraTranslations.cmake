@@ -1,6 +1,6 @@
 # Compiles the texts of other languages.
 
-find_program(LIRRA_LRELEASE lrelease PATHS /usr/lib/qt6/bin NO_DEFAULT_PATH REQUIRED)
+find_program(LIRRA_LRELEASE lrelease HINTS /usr/lib/qt6/bin REQUIRED)
 
 # lirra_translations(TARGET)
 #

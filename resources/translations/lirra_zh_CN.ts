@@ -70,6 +70,13 @@
     </message>
 </context>
 <context>
+    <name>HRFApplicationDelegate</name>
+    <message>
+        <source>Lirra %1</source>
+        <translation>Lirra %1</translation>
+    </message>
+</context>
+<context>
     <name>HRFAttributeDescription</name>
     <message>
         <source>Number could not be parsed</source>

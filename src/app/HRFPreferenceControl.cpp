@@ -31,7 +31,7 @@ QString keyOf(const HRFPreferenceRow &row)
 }
 
 /// Makes a widget show the setting now, and whenever it changes.
-void follow(const QString &key, QWidget *widget, const std::function<void()> &show)
+template <class Show> void follow(const QString &key, QWidget *widget, const Show &show)
 {
     QObject::connect(&HRFUserDefaults::standard(), &HRFUserDefaults::valueChanged, widget,
                      [key, show](const QString &changedKey) {

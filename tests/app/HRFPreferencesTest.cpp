@@ -31,9 +31,9 @@ protected:
         defaults().setFilePath(path(u"settings.ini"_s));
         HRFAttributeManager::releaseSharedManager(); // the next one is in this folder
     }
-    ~HRFPreferencesTest() override
+    void TearDown() override
     {
-        HRFBackground::waitUntilIdle();
+        HRFTestWithApplication::TearDown();
         defaults().setFilePath({});
         HRFMetaFileManager::fileOperationQueue().waitUntilAllOperationsAreFinished();
     }

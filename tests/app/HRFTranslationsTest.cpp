@@ -26,9 +26,9 @@ protected:
         HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
         HRFAttributeManager::releaseSharedManager();
     }
-    ~HRFTranslationsTest() override
+    void TearDown() override
     {
-        HRFBackground::waitUntilIdle();
+        HRFTestWithApplication::TearDown();
         speak(u"C"_s);
         HRFUserDefaults::standard().setFilePath({});
     }
