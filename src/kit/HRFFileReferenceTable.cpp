@@ -402,8 +402,7 @@ void HRFFileReferenceTable::preferPath(const HRFFileReference &file)
         Table::shared().put(*present, Place::of(absolutePath(file.nativePath())));
 }
 
-void HRFFileReferenceTable::fileDidBecome(const QString &referenceURL,
-                                          const HRFFileReference &file)
+void HRFFileReferenceTable::fileDidBecome(const QString &referenceURL, const HRFFileReference &file)
 {
     const std::optional<File> present = fileAt(file.nativePath());
     const std::optional<Reference> reference =
