@@ -4,6 +4,7 @@
 #include "app/HRFPreferencesWindow.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFAssert.h"
+#include "store/HRFViewConfigManager.h"
 
 #include <algorithm>
 
@@ -12,6 +13,7 @@ HRFApplicationDelegate::HRFApplicationDelegate() = default;
 HRFApplicationDelegate::~HRFApplicationDelegate()
 {
     m_windows.clear(); // before their lists
+    HRFViewConfigManager::releaseSharedManager();
 }
 
 HRFListWindow &HRFApplicationDelegate::newList()

@@ -1,7 +1,11 @@
 #include "app/HRFListColumn.h"
 
 #include "store/HRFAttributeManager.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
+#include "store/HRFSystemFile.h"
 #include "store/HRFValueTransformer.h"
+#include "tags/HRFTagValue.h"
 
 #include <QCoreApplication>
 
@@ -94,6 +98,29 @@ QString HRFListColumn::text(const HRFMetaFile &file) const
     if (kind == HRFListColumnKind::CheckBox)
         return HRFTransformedValue(HRFValueTransformer::localizedBool, values->value(file));
     return values->text(file);
+}
+
+QVariant HRFListColumn::editedValue(const HRFMetaFile &file) const
+{
+    return attribute()->isFilename() ? text(file) : value(file);
+}
+
+bool HRFListColumn::setValue(const HRFMetaFile &file, const QVariant &edited) const
+{
+    if (HRFTagValue::isNothing(edited) ? !value(file).isValid() : edited == editedValue(file))
+        return false;
+    if (attribute()->entity->name == HRFMetaTags::entityName())
+        file.tags().setValueForKey(edited, name);
+    else
+        file.fileInfo().setValueForKey(edited, name);
+    return true;
+}
+
+QString HRFListColumn::undoActionName() const
+{
+    if (attribute()->isFilename())
+        return tr("Rename");
+    return attribute()->isFileExtension() ? tr("Change Extension") : tr("Edit %1").arg(title);
 }
 
 namespace HRFListColumns {

@@ -25,6 +25,12 @@ struct HRFListColumn
     QVariant value(const HRFMetaFile &file) const;
     /// The value as one line of text, whatever the column's cells look like.
     QString text(const HRFMetaFile &file) const;
+
+    /// The value as it is edited: names as they are shown, with "/".
+    QVariant editedValue(const HRFMetaFile &file) const;
+    /// Edits the record, for columns that are editable. Answers whether that changes anything.
+    bool setValue(const HRFMetaFile &file, const QVariant &edited) const;
+    QString undoActionName() const;
 };
 
 /// A titled part of the catalogue.

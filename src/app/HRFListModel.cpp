@@ -4,9 +4,6 @@
 #include "app/HRFThumbnails.h"
 #include "document/HRFPlaylist.h"
 #include "store/HRFMetaFile.h"
-#include "store/HRFMetaTags.h"
-#include "store/HRFSystemFile.h"
-#include "tags/HRFTagValue.h"
 
 #include <QPixmap>
 #include <QScopedValueRollback>
@@ -44,12 +41,6 @@ QVariant displayed(const HRFListColumn &column, const HRFMetaFile &file)
     return isText ? column.text(file) : QVariant();
 }
 
-/// Names are edited as they are shown, with "/".
-QVariant edited(const HRFListColumn &column, const HRFMetaFile &file)
-{
-    return column.attribute()->isFilename() ? column.text(file) : column.value(file);
-}
-
 } // namespace
 
 HRFListModel::HRFListModel(HRFPlaylist &list, HRFThumbnails &thumbnails)
@@ -84,7 +75,7 @@ QVariant HRFListModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole:
         return column.text(file);
     case Qt::EditRole:
-        return edited(column, file);
+        return column.editedValue(file);
     case Raw:
         return column.value(file);
     case Qt::CheckStateRole:
@@ -112,16 +103,8 @@ bool HRFListModel::setData(const QModelIndex &index, const QVariant &value, int 
     const HRFMetaFile &file = recordAt(index.row());
     const QVariant given =
         role == Qt::CheckStateRole ? QVariant(value.toInt() == Qt::Checked) : value;
-    const HRFAttributeDescription &attribute = *column.attribute();
-    if (HRFTagValue::isNothing(given) ? !column.value(file).isValid()
-                                      : given == edited(column, file))
-        return true; // nothing changes
-    if (attribute.entity->name == HRFMetaTags::entityName()) {
-        file.tags().setValueForKey(given, attribute.name);
-        m_list.setUndoActionName(tr("Edit %1").arg(column.title));
-    } else {
-        file.fileInfo().setValueForKey(given, attribute.name);
-    }
+    if (column.setValue(file, given))
+        m_list.setUndoActionName(column.undoActionName());
     return true;
 }
 

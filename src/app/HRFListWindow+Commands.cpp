@@ -5,6 +5,10 @@
 #include "app/HRFListModel.h"
 #include "app/HRFListView.h"
 #include "app/HRFListWindow.h"
+#include "app/HRFSidebar.h"
+#include "app/HRFSidebarSplitter.h"
+#include "app/HRFArtworkPane.h"
+#include "app/HRFListCommands.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFUserInteraction.h"
 #include "store/HRFMetaFile.h"
@@ -60,6 +64,7 @@ void HRFListWindow::closeList()
 
 void HRFListWindow::quit()
 {
+    m_sidebar->commit();
     m_application.quit();
 }
 
@@ -151,6 +156,31 @@ void HRFListWindow::makeRowsLower()
 void HRFListWindow::makeRowsUsual()
 {
     m_view->zoom(0);
+}
+
+void HRFListWindow::toggleSidebar()
+{
+    m_splitter->setShowsSidebar(!m_splitter->showsSidebar());
+    m_commands->action(u"sidebar"_s)->setChecked(m_splitter->showsSidebar());
+    if (!m_splitter->showsSidebar())
+        m_view->setFocus();
+}
+
+void HRFListWindow::editInSidebar()
+{
+    if (!m_splitter->showsSidebar())
+        toggleSidebar();
+    m_sidebar->focusFirstField();
+}
+
+void HRFListWindow::configureSidebar()
+{
+    m_sidebar->configure();
+}
+
+void HRFListWindow::reloadArtworkPane()
+{
+    m_sidebar->artworkPane().reload();
 }
 
 void HRFListWindow::toggleFullScreen()

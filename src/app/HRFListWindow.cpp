@@ -12,6 +12,8 @@
 #include "app/HRFListModel.h"
 #include "app/HRFListView.h"
 #include "app/HRFSelectionLink.h"
+#include "app/HRFSidebar.h"
+#include "app/HRFSidebarSplitter.h"
 #include "app/HRFStatusLine.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFUserDefaults.h"
@@ -66,7 +68,9 @@ void HRFListWindow::makeTable()
     m_header = new HRFListHeader(m_list.fileController(), this);
     m_view = new HRFListView(*m_model, m_header, this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    setCentralWidget(m_view);
+    m_sidebar = new HRFSidebar(m_list, this);
+    m_splitter = new HRFSidebarSplitter(*m_view, *m_sidebar, this);
+    setCentralWidget(m_splitter);
     m_selectionLink = std::make_unique<HRFSelectionLink>(m_list.fileController(), *m_model,
                                                          *m_view->selectionModel());
     m_filter = new HRFListFilter(m_list.managedObjectContext(), m_list.fileController(), this);
@@ -81,6 +85,8 @@ void HRFListWindow::makeBars()
     m_commands->fill(*menuBar());
     QAction *help = menuBar()->actions().constLast();
     menuBar()->insertMenu(help, new HRFDebugMenu(m_application, menuBar()));
+    m_commands->action(u"sidebar"_s)->setCheckable(true);
+    m_commands->action(u"sidebar"_s)->setChecked(m_splitter->showsSidebar());
     QToolBar *bar = addToolBar(tr("Tool Bar"));
     bar->setObjectName(u"toolBar"_s);
     bar->setMovable(false);
@@ -238,6 +244,7 @@ void HRFListWindow::scrollToSelection()
 
 void HRFListWindow::closeEvent(QCloseEvent *event)
 {
+    m_sidebar->commit();
     event->ignore(); // the window goes when its list does
     if (!hasAttachedSheet())
         m_application.close(*this);

@@ -18,6 +18,8 @@ class HRFListModel;
 class HRFListView;
 class HRFPlaylist;
 class HRFSelectionLink;
+class HRFSidebar;
+class HRFSidebarSplitter;
 class QLineEdit;
 class QToolBar;
 
@@ -36,6 +38,7 @@ public:
     HRFListHeader &header() const { return *m_header; }
     HRFListCommands &commands() const { return *m_commands; }
     QLineEdit &filterField() const { return *m_filterField; }
+    HRFSidebar &sidebar() const { return *m_sidebar; }
 
     void showWindows() override;
     bool hasAttachedSheet() const override;
@@ -44,7 +47,7 @@ public:
     void clearFilterField() override;
     void focusInitialControl() override;
     void scrollToSelection() override;
-    void reloadArtworkPane() override { }
+    void reloadArtworkPane() override;
 
     // Commands:
     void newList();
@@ -68,6 +71,9 @@ public:
     void makeRowsHigher();
     void makeRowsLower();
     void makeRowsUsual();
+    void toggleSidebar();
+    void editInSidebar();
+    void configureSidebar();
     void toggleFullScreen();
     void showAbout();
 
@@ -115,6 +121,8 @@ private:
     std::unique_ptr<HRFSelectionLink> m_selectionLink;
     HRFListHeader *m_header = nullptr;
     HRFListView *m_view = nullptr;
+    HRFSidebar *m_sidebar = nullptr;
+    HRFSidebarSplitter *m_splitter = nullptr;
     HRFListFilter *m_filter = nullptr;
     HRFListCommands *m_commands = nullptr;
     QLineEdit *m_filterField = nullptr;

@@ -1,12 +1,8 @@
 #include "app/HRFThumbnails.h"
 
+#include "app/HRFPicture.h"
 #include "kit/HRFAssert.h"
-#include "kit/HRFFileReferenceTable.h"
 #include "kit/HRFMainThread.h"
-#include "tags/HRFTagEngine.h"
-
-#include <QBuffer>
-#include <QImageReader>
 
 namespace {
 
@@ -14,26 +10,6 @@ constexpr int threadCount = 2;
 constexpr qsizetype cacheBytes = 48LL << 20;
 /// More are not looked at by anybody: the user has scrolled past.
 constexpr std::size_t mostWaiting = 200;
-
-/// Null when there is no picture that can be read.
-QImage readThumbnail(const QString &fileURL)
-{
-    const auto file = HRFFileReferenceTable::fileForURL(fileURL);
-    const auto engine =
-        file ? HRFTagEngine::initWithURL(*file) : HRFResult<std::unique_ptr<HRFTagEngine>>();
-    if (!engine || !*engine)
-        return {};
-    QByteArray data = (*engine)->valueForKey(HRFTagKey::artwork).toByteArray();
-    QBuffer buffer(&data);
-    QImageReader reader(&buffer);
-    reader.setAutoTransform(true);
-    const QSize bounds(HRFThumbnails::size, HRFThumbnails::size);
-    if (const QSize whole = reader.size(); whole.isValid() && !whole.isEmpty())
-        reader.setScaledSize(whole.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    const QImage image = reader.read();
-    return image.isNull() ? image
-                          : image.scaled(bounds, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-}
 
 } // namespace
 
@@ -66,7 +42,7 @@ void HRFThumbnails::startLoading()
         ++m_running;
         m_reading.run([reference = m_weakSelf.reference(), next] {
             QImage image;
-            HRFMainThread::runLoggingFailures([&] { image = readThumbnail(next.fileURL); });
+            HRFMainThread::runLoggingFailures([&] { image = HRFPicture::scaled(HRFPicture::inFile(next.fileURL), {size, size}); });
             HRFMainThread::run(
                 [reference, digest = next.digest, image = std::move(image)] {
                     if (HRFThumbnails *self = reference.get())

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+class QLineEdit;
+class QObject;
+class QValidator;
+struct HRFListColumn;
+
+/// Values as they stand in text fields, in cells and in the sidebar.
+namespace HRFFieldText {
+
+QString textOf(const HRFListColumn &column, const QVariant &value);
+/// Invalid for no value.
+QVariant valueOf(const HRFListColumn &column, const QString &text);
+
+/// A text that is kept in lines.
+bool hasLines(const HRFListColumn &column, const QString &text);
+
+/// Lets only values of the column be entered, and shows by colour what is none yet.
+void setUp(QLineEdit &field, const HRFListColumn &column);
+
+} // namespace HRFFieldText

@@ -1,0 +1,235 @@
+#include "app/HRFSidebar.h"
+
+#include "app/HRFArtworkPane.h"
+#include "app/HRFSidebarDialog.h"
+#include "app/HRFSidebarField.h"
+#include "app/HRFSidebarGroup.h"
+#include "document/HRFPlaylist.h"
+#include "store/HRFMetaFile.h"
+#include "store/HRFSystemFile.h"
+#include "store/HRFViewConfigManager.h"
+
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int margin = 8;
+
+/// The changed properties of each entity.
+QHash<QString, HRFPropertySet> changedProperties(const HRFContextChanges &changes)
+{
+    QHash<const HRFEntityDescription *, HRFPropertySet> sets;
+    for (const HRFObjectChange &change : changes.updated)
+        sets[&change.object->entity()] |= change.properties;
+    QHash<QString, HRFPropertySet> named;
+    for (const auto &[entity, set] : sets.asKeyValueRange())
+        named.insert(entity->name, set);
+    return named;
+}
+
+} // namespace
+
+HRFSidebar::HRFSidebar(HRFPlaylist &list, QWidget *parent)
+    : QWidget(parent)
+    , m_list(list)
+    , m_summary(new QLabel(this))
+    , m_artwork(new HRFArtworkPane(list, this))
+    , m_scrollArea(new QScrollArea(this))
+{
+    constexpr int narrowest = 240;
+    setObjectName(u"sidebar"_s);
+    setAccessibleName(tr("Sidebar"));
+    setMinimumWidth(narrowest);
+    m_summary->setObjectName(u"sidebarSummary"_s);
+    m_summary->setContentsMargins(margin, margin, margin, 0);
+    m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setWordWrap(true);
+    m_scrollArea->setObjectName(u"sidebarFields"_s);
+    m_scrollArea->setAccessibleName(tr("Fields"));
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_summary);
+    layout->addWidget(m_artwork);
+    layout->addWidget(m_scrollArea, 1);
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(0);
+    connect(&m_refresh, &QTimer::timeout, this, &HRFSidebar::refreshSome);
+    connect(&list.fileController(), &HRFArrayController::selectionDidChange, this,
+            &HRFSidebar::selectionDidChange);
+    connect(&list.managedObjectContext(), &HRFMainContext::objectsDidChange, this,
+            &HRFSidebar::contextDidChange);
+    connect(&HRFViewConfigManager::sharedManager(), &HRFViewConfigManager::groupsDidChange, this,
+            &HRFSidebar::makeGroups);
+    makeGroups();
+    selectionDidChange();
+}
+
+void HRFSidebar::makeGroups()
+{
+    commit();
+    m_stale.clear();
+    m_groups.clear();
+    auto *content = new QWidget(m_scrollArea);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(margin / 2, 0, margin / 2, margin);
+    HRFViewConfigManager &configuration = HRFViewConfigManager::sharedManager();
+    for (std::size_t index = 0; index < configuration.groups().size(); ++index) {
+        auto *group = new HRFSidebarGroup(configuration.groups()[index], content);
+        group->setObjectName(u"group.%1"_s.arg(index));
+        layout->addWidget(group);
+        m_groups.push_back(group);
+        for (HRFSidebarField *field : group->fields())
+            connect(field, &HRFSidebarField::didEdit, this, [this, field](const QVariant &value) {
+                edit(field->column(), value);
+                makeStale(field); // shows the value as it was understood
+            });
+        connect(group, &HRFSidebarGroup::didToggle, this, [this, index](bool isExpanded) {
+            HRFViewConfigManager::sharedManager().setCollapsed(index, !isExpanded);
+            m_refresh.start();
+        });
+    }
+    layout->addStretch();
+    m_scrollArea->setWidget(content);
+    makeAllStale();
+}
+
+void HRFSidebar::configure()
+{
+    auto *dialog = new HRFSidebarDialog(window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void HRFSidebar::commit()
+{
+    for (const HRFSidebarGroup *group : m_groups)
+        for (HRFSidebarField *field : group->fields())
+            field->commit();
+}
+
+void HRFSidebar::focusFirstField()
+{
+    for (const HRFSidebarGroup *group : m_groups)
+        if (group->isExpanded())
+            for (const HRFSidebarField *field : group->fields())
+                if (field->column().isEditable() && field->widget().isEnabled())
+                    return field->widget().setFocus(Qt::ShortcutFocusReason);
+}
+
+/// Delete is a key of fields and of the picture; here it never takes files out of the list.
+bool HRFSidebar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride
+        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete)
+        event->accept();
+    return QWidget::event(event);
+}
+
+void HRFSidebar::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_refresh.start();
+}
+
+void HRFSidebar::selectionDidChange()
+{
+    commit(); // what was typed was meant for the records that were selected
+    const auto &selected = m_list.fileController().selectedObjects();
+    m_records.resize(selected.size());
+    std::ranges::transform(selected, m_records.begin(), &HRFMetaFile::objectID);
+    makeAllStale();
+}
+
+void HRFSidebar::makeStale(HRFSidebarField *field)
+{
+    m_stale.insert(field);
+    m_refresh.start();
+}
+
+void HRFSidebar::makeAllStale()
+{
+    for (const HRFSidebarGroup *group : m_groups)
+        m_stale.insert(group->fields().begin(), group->fields().end());
+    m_isSummaryStale = true;
+    m_refresh.start();
+}
+
+void HRFSidebar::contextDidChange(const HRFContextChanges &changes)
+{
+    const QHash<QString, HRFPropertySet> changed = changedProperties(changes);
+    if (changed.isEmpty())
+        return;
+    for (const HRFSidebarGroup *group : m_groups)
+        for (HRFSidebarField *field : group->fields()) {
+            const HRFAttributeDescription &attribute = *field->column().attribute();
+            // Where a file is follows from its URL and its name.
+            if (attribute.isFilePath()
+                || changed.value(attribute.entity->name) & HRFPropertyBit(attribute.index))
+                makeStale(field);
+        }
+    if (changed.contains(HRFSystemFile::entityName()))
+        m_isSummaryStale = true;
+    m_artwork->refresh();
+}
+
+void HRFSidebar::showSummary()
+{
+    const auto &selected = m_list.fileController().selectedObjects();
+    const QLocale locale;
+    m_summary->setText(selected.empty() ? tr("No file selected")
+                           : selected.size() == 1
+                           ? selected.front()->fileInfo().displayFileName()
+                           : tr("%1 files").arg(locale.toString(qulonglong(selected.size()))));
+}
+
+/// Goes on until some time is used up; the rest waits for the next turn.
+void HRFSidebar::refreshSome()
+{
+    constexpr qint64 mostMilliseconds = 12;
+    if (!isVisible())
+        return;
+    if (std::exchange(m_isSummaryStale, false)) {
+        showSummary();
+        m_artwork->refresh();
+    }
+    QElapsedTimer time;
+    time.start();
+    const auto &records = m_list.fileController().selectedObjects();
+    for (const HRFSidebarGroup *group : m_groups) {
+        if (!group->isExpanded())
+            continue;
+        for (HRFSidebarField *field : group->fields()) {
+            if (field->isModified() || m_stale.erase(field) == 0)
+                continue;
+            field->show(HRFCommonValue::of(field->column(), records));
+            if (time.hasExpired(mostMilliseconds))
+                return m_refresh.start();
+        }
+    }
+}
+
+void HRFSidebar::edit(const HRFListColumn &column, const QVariant &value)
+{
+    HRFMainContext &context = m_list.managedObjectContext();
+    context.processPendingChanges(); // they are no part of this edit
+    bool changesAnything = false;
+    for (const HRFObjectID record : m_records)
+        if (auto *file = context.object<HRFMetaFile>(record))
+            changesAnything |= column.setValue(*file, value);
+    if (changesAnything)
+        m_list.setUndoActionName(column.undoActionName());
+    context.processPendingChanges();
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/HRFCommonValue.h"
+
+#include <QObject>
+
+class QWidget;
+
+/// One column of the selected records in the sidebar: shows the value that they agree on, and tells
+/// what the user makes of it. What was not edited is never told of.
+class HRFSidebarField : public QObject
+{
+    Q_OBJECT
+public:
+    /// A field that suits the column; its widget belongs to the parent.
+    static HRFSidebarField *make(const HRFListColumn &column, QWidget *parent);
+
+    const HRFListColumn &column() const { return m_column; }
+    QWidget &widget() const { return *m_widget; }
+
+    virtual void show(const HRFCommonValue &common) = 0;
+    /// Whether something was entered that has not been told of.
+    virtual bool isModified() const { return false; }
+    /// Tells of what was entered; what is no value of the column is taken back.
+    virtual void commit() { }
+
+Q_SIGNALS:
+    void didEdit(const QVariant &value);
+
+protected:
+    HRFSidebarField(const HRFListColumn &column, QWidget &widget);
+    static QString multipleValues();
+
+private:
+    const HRFListColumn &m_column;
+    QWidget *const m_widget;
+};

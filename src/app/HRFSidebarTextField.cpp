@@ -1,0 +1,205 @@
+#include "app/HRFSidebarTextField.h"
+
+#include "app/HRFFieldText.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using Kind = HRFListColumnKind;
+
+namespace {
+
+class LineField : public HRFSidebarTextField
+{
+public:
+    LineField(const HRFListColumn &column, QWidget *parent)
+        : LineField(column, *new QLineEdit(parent))
+    {
+    }
+
+protected:
+    QString text() const override { return m_line.text(); }
+    void setText(const QString &text) override
+    {
+        m_line.setText(text);
+        m_line.setCursorPosition(0);
+        const bool isTooLong = m_line.fontMetrics().horizontalAdvance(text) > m_line.width();
+        m_line.setToolTip(isTooLong ? u"<p>"_s + text.toHtmlEscaped() + u"</p>"_s : QString());
+    }
+    void setPlaceholder(const QString &text) override { m_line.setPlaceholderText(text); }
+    void setReadOnly(bool isReadOnly) override { m_line.setReadOnly(isReadOnly); }
+    bool isAcceptable() const override { return m_line.hasAcceptableInput(); }
+    bool isEnd(const QKeyEvent &key) const override
+    {
+        return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    }
+    void selectAll() override { m_line.selectAll(); }
+    QMenu *standardMenu() override { return m_line.createStandardContextMenu(); }
+
+private:
+    LineField(const HRFListColumn &column, QLineEdit &line)
+        : HRFSidebarTextField(column, line), m_line(line)
+    {
+        if (column.isEditable())
+            HRFFieldText::setUp(line, column);
+        else
+            showNothingButText();
+    }
+
+    void showNothingButText()
+    {
+        m_line.setFrame(false);
+        QPalette palette = m_line.palette();
+        palette.setColor(QPalette::Base, Qt::transparent);
+        m_line.setPalette(palette);
+    }
+
+    QLineEdit &m_line;
+};
+
+class LinesField : public HRFSidebarTextField
+{
+public:
+    LinesField(const HRFListColumn &column, QWidget *parent)
+        : LinesField(column, *new QPlainTextEdit(parent))
+    {
+    }
+
+protected:
+    QString text() const override { return m_lines.toPlainText(); }
+    void setText(const QString &text) override { m_lines.setPlainText(text); }
+    void setPlaceholder(const QString &text) override { m_lines.setPlaceholderText(text); }
+    void setReadOnly(bool isReadOnly) override { m_lines.setReadOnly(isReadOnly); }
+    bool isEnd(const QKeyEvent &key) const override
+    {
+        const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+        return isReturn && key.modifiers() & Qt::ControlModifier;
+    }
+    void selectAll() override { m_lines.selectAll(); }
+    QMenu *standardMenu() override { return m_lines.createStandardContextMenu(); }
+
+private:
+    LinesField(const HRFListColumn &column, QPlainTextEdit &lines)
+        : HRFSidebarTextField(column, lines), m_lines(lines)
+    {
+        lines.setTabChangesFocus(true);
+        lines.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        connect(lines.document()->documentLayout(),
+                &QAbstractTextDocumentLayout::documentSizeChanged, this, [this] { fitHeight(); });
+        fitHeight();
+    }
+
+    /// As many lines as there are, within reason.
+    void fitHeight()
+    {
+        constexpr int fewest = 3;
+        constexpr int most = 12;
+        const int lines = std::clamp(int(m_lines.document()->size().height()), fewest, most);
+        const int frame = 2 * (m_lines.frameWidth() + int(m_lines.document()->documentMargin()));
+        m_lines.setFixedHeight(lines * m_lines.fontMetrics().lineSpacing() + frame);
+    }
+
+    QPlainTextEdit &m_lines;
+};
+
+} // namespace
+
+HRFSidebarTextField *HRFSidebarTextField::make(const HRFListColumn &column, QWidget *parent)
+{
+    if (column.isEditable() && HRFFieldText::hasLines(column, {}))
+        return new LinesField(column, parent);
+    return new LineField(column, parent);
+}
+
+HRFSidebarTextField::HRFSidebarTextField(const HRFListColumn &column, QWidget &widget)
+    : HRFSidebarField(column, widget)
+{
+    widget.installEventFilter(this);
+    widget.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&widget, &QWidget::customContextMenuRequested, this, &HRFSidebarTextField::showMenu);
+}
+
+void HRFSidebarTextField::show(const HRFCommonValue &common)
+{
+    // Two files cannot have one name.
+    m_isReadOnly =
+        !column().isEditable() || (column().attribute()->isFilename() && common.recordCount > 1);
+    const QString shown = column().isEditable() ? HRFFieldText::textOf(column(), common.value)
+                                                : common.text;
+    m_hasValue = !common.isSame || !shown.isEmpty();
+    const bool isEmptyDate = column().kind == Kind::Date && !m_isReadOnly;
+    setPlaceholder(!common.isSame ? multipleValues() : isEmptyDate ? u"2024-12-31"_s : QString());
+    setReadOnly(m_isReadOnly);
+    if (text() != shown || !m_hasValue)
+        setText(shown);
+    m_shown = text();
+    widget().setEnabled(common.recordCount > 0);
+}
+
+void HRFSidebarTextField::commit()
+{
+    if (!isModified())
+        return;
+    if (!isAcceptable())
+        return restore();
+    m_shown = text();
+    Q_EMIT didEdit(HRFFieldText::valueOf(column(), m_shown));
+}
+
+bool HRFSidebarTextField::eventFilter(QObject *object, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FocusOut:
+        if (static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
+            commit();
+        return false;
+    case QEvent::ShortcutOverride: {
+        const auto &key = static_cast<QKeyEvent &>(*event);
+        const bool isUndo = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+        if (isModified() || !isUndo)
+            return false;
+        event->ignore(); // there is nothing of the field's own to undo, the list shall do it
+        return true;
+    }
+    case QEvent::KeyPress:
+        return filterKey(static_cast<QKeyEvent &>(*event));
+    default:
+        return HRFSidebarField::eventFilter(object, event);
+    }
+}
+
+bool HRFSidebarTextField::filterKey(QKeyEvent &key)
+{
+    if (key.key() == Qt::Key_Escape && isModified()) {
+        restore();
+        return true;
+    }
+    if (!isEnd(key))
+        return false;
+    commit();
+    selectAll();
+    return true;
+}
+
+/// Values that differ cannot be deleted by typing: there is nothing to delete in the field.
+void HRFSidebarTextField::showMenu(const QPoint &position)
+{
+    QMenu *menu = standardMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (!m_isReadOnly && !column().attribute()->isFilename()) {
+        menu->addSeparator();
+        QAction *removal = menu->addAction(tr("Remove Value"), this, [this] {
+            restore();
+            Q_EMIT didEdit({});
+        });
+        removal->setObjectName(u"removeValue"_s);
+        removal->setEnabled(m_hasValue);
+    }
+    menu->popup(widget().mapToGlobal(position));
+}
