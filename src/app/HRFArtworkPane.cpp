@@ -61,7 +61,7 @@ HRFArtworkPane::HRFArtworkPane(HRFPlaylist &list, QWidget *parent)
     m_facts->setAttribute(Qt::WA_TransparentForMouseEvents);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
-    layout->addSpacing(pictureHeight);
+    layout->addSpacing(pictureHeight + margin / 2);
     layout->addWidget(m_facts);
     connect(&m_loader, &HRFPictureLoader::pictureDidLoad, this, qOverload<>(&QWidget::update));
 }

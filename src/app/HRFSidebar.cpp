@@ -13,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -39,31 +38,30 @@ QHash<QString, HRFPropertySet> changedProperties(const HRFContextChanges &change
 } // namespace
 
 HRFSidebar::HRFSidebar(HRFPlaylist &list, QWidget *parent)
-    : QWidget(parent)
+    : QScrollArea(parent)
     , m_list(list)
-    , m_summary(new QLabel(this))
-    , m_artwork(new HRFArtworkPane(list, this))
-    , m_scrollArea(new QScrollArea(this))
+    , m_content(new QWidget)
+    , m_summary(new QLabel(m_content))
+    , m_artwork(new HRFArtworkPane(list, m_content))
 {
     constexpr int narrowest = 240;
     setObjectName(u"sidebar"_s);
     setAccessibleName(tr("Sidebar"));
     setMinimumWidth(narrowest);
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_summary->setObjectName(u"sidebarSummary"_s);
     m_summary->setContentsMargins(margin, margin, margin, 0);
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);
-    m_scrollArea->setObjectName(u"sidebarFields"_s);
-    m_scrollArea->setAccessibleName(tr("Fields"));
-    m_scrollArea->setFocusPolicy(Qt::NoFocus);
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto *layout = new QVBoxLayout(this);
+    m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *layout = new QVBoxLayout(m_content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_summary);
     layout->addWidget(m_artwork);
-    layout->addWidget(m_scrollArea, 1);
+    setWidget(m_content);
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(0);
     connect(&m_refresh, &QTimer::timeout, this, &HRFSidebar::refreshSome);
@@ -82,12 +80,12 @@ void HRFSidebar::makeGroups()
     commit();
     m_stale.clear();
     m_groups.clear();
-    auto *content = new QWidget(m_scrollArea);
-    auto *layout = new QVBoxLayout(content);
+    auto *groups = new QWidget(m_content);
+    auto *layout = new QVBoxLayout(groups);
     layout->setContentsMargins(margin / 2, 0, margin / 2, margin);
     HRFViewConfigManager &configuration = HRFViewConfigManager::sharedManager();
     for (std::size_t index = 0; index < configuration.groups().size(); ++index) {
-        auto *group = new HRFSidebarGroup(configuration.groups()[index], content);
+        auto *group = new HRFSidebarGroup(configuration.groups()[index], groups);
         group->setObjectName(u"group.%1"_s.arg(index));
         layout->addWidget(group);
         m_groups.push_back(group);
@@ -102,7 +100,8 @@ void HRFSidebar::makeGroups()
         });
     }
     layout->addStretch();
-    m_scrollArea->setWidget(content);
+    delete std::exchange(m_groupsPane, groups);
+    m_content->layout()->addWidget(groups);
     makeAllStale();
 }
 
@@ -135,12 +134,12 @@ bool HRFSidebar::event(QEvent *event)
     if (event->type() == QEvent::ShortcutOverride
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete)
         event->accept();
-    return QWidget::event(event);
+    return QScrollArea::event(event);
 }
 
 void HRFSidebar::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
+    QScrollArea::showEvent(event);
     m_refresh.start();
 }
 

@@ -2,8 +2,8 @@
 
 #include "store/HRFManagedObject.h"
 
+#include <QScrollArea>
 #include <QTimer>
-#include <QWidget>
 
 #include <unordered_set>
 #include <vector>
@@ -13,7 +13,6 @@ class HRFPlaylist;
 class HRFSidebarField;
 class HRFSidebarGroup;
 class QLabel;
-class QScrollArea;
 struct HRFContextChanges;
 struct HRFListColumn;
 
@@ -21,7 +20,7 @@ struct HRFListColumn;
 /// the user enters goes into all of these records, as one edit.
 ///
 /// With many records, values are compared a little at a time between other events.
-class HRFSidebar : public QWidget
+class HRFSidebar : public QScrollArea
 {
     Q_OBJECT
 public:
@@ -49,9 +48,10 @@ private:
     void showSummary();
 
     HRFPlaylist &m_list;
+    QWidget *m_content;
+    QWidget *m_groupsPane = nullptr;
     QLabel *m_summary;
     HRFArtworkPane *m_artwork;
-    QScrollArea *m_scrollArea;
     std::vector<HRFSidebarGroup *> m_groups;
     /// What is edited: the records that were selected when the user saw the fields.
     std::vector<HRFObjectID> m_records;

@@ -47,7 +47,6 @@ HRFSidebarGroup::HRFSidebarGroup(const HRFTagsViewGroup &group, QWidget *parent)
     m_title->setText(group.title);
     m_title->setObjectName(u"title"_s);
     m_title->setAutoRaise(true);
-    m_title->setCheckable(true);
     m_title->setFocusPolicy(Qt::TabFocus);
     m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_title->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -59,22 +58,16 @@ HRFSidebarGroup::HRFSidebarGroup(const HRFTagsViewGroup &group, QWidget *parent)
     m_grid->setColumnMinimumWidth(0, labelWidth);
     m_grid->setColumnStretch(1, 1);
     addFields(group.attributeNames);
-    connect(m_title, &QToolButton::toggled, this, [this](bool isExpanded) {
-        showFields(isExpanded);
-        Q_EMIT didToggle(isExpanded);
+    connect(m_title, &QToolButton::clicked, this, [this] {
+        showFields(!m_isExpanded);
+        Q_EMIT didToggle(m_isExpanded);
     });
-    const QSignalBlocker isNoChange(m_title);
-    m_title->setChecked(!group.isCollapsed);
     showFields(!group.isCollapsed);
-}
-
-bool HRFSidebarGroup::isExpanded() const
-{
-    return m_title->isChecked();
 }
 
 void HRFSidebarGroup::showFields(bool isExpanded)
 {
+    m_isExpanded = isExpanded;
     m_title->setArrowType(isExpanded ? Qt::DownArrow : Qt::RightArrow);
     m_title->setToolTip(isExpanded ? tr("Hide the fields of this group")
                                    : tr("Show the fields of this group"));
@@ -132,9 +125,11 @@ void HRFSidebarGroup::addRow(const HRFListColumn &column, QWidget &field,
     label->setBuddy(&labelled.widget());
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const bool isHigh = field.sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
+    label->setContentsMargins(0, isHigh ? 4 : 0, 0, 0);
     label->setToolTip(column.attribute()->localizedDescription());
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
     label->setPalette(palette);
-    m_grid->addWidget(label, row, 0);
+    m_grid->addWidget(label, row, 0, isHigh ? Qt::AlignTop : Qt::Alignment());
 }

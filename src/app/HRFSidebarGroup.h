@@ -18,7 +18,7 @@ public:
     HRFSidebarGroup(const HRFTagsViewGroup &group, QWidget *parent);
 
     const std::vector<HRFSidebarField *> &fields() const { return m_fields; }
-    bool isExpanded() const;
+    bool isExpanded() const { return m_isExpanded; }
 
 Q_SIGNALS:
     void didToggle(bool isExpanded);
@@ -34,4 +34,5 @@ private:
     QWidget *m_body;
     QGridLayout *m_grid;
     std::vector<HRFSidebarField *> m_fields;
+    bool m_isExpanded = true;
 };

@@ -133,13 +133,18 @@ void HRFSidebarTextField::show(const HRFCommonValue &common)
     const QString shown = column().isEditable() ? HRFFieldText::textOf(column(), common.value)
                                                 : common.text;
     m_hasValue = !common.isSame || !shown.isEmpty();
-    const bool isEmptyDate = column().kind == Kind::Date && !m_isReadOnly;
-    setPlaceholder(!common.isSame ? multipleValues() : isEmptyDate ? u"2024-12-31"_s : QString());
+    setPlaceholder(common.isSame ? hint() : column().isQuantity() ? tr("Multiple")
+                                                                  : multipleValues());
     setReadOnly(m_isReadOnly);
     if (text() != shown || !m_hasValue)
         setText(shown);
     m_shown = text();
     widget().setEnabled(common.recordCount > 0);
+}
+
+QString HRFSidebarTextField::hint() const
+{
+    return column().kind == Kind::Date && !m_isReadOnly ? tr("YYYY-MM-DD") : QString();
 }
 
 void HRFSidebarTextField::commit()

@@ -34,6 +34,7 @@ protected:
 
 private:
     void restore() { setText(m_shown); }
+    QString hint() const;
     bool filterKey(QKeyEvent &key);
     void showMenu(const QPoint &position);
 
