@@ -72,10 +72,10 @@ void HRFArtworkPane::refresh()
     m_digest = records.empty() ? QString() : records.front()->artworkMD5();
     const bool areSame = std::ranges::all_of(
         records, [this](const HRFMetaFile *file) { return file->artworkMD5() == m_digest; });
-    m_state = records.empty()  ? State::NoRecords
-        : !areSame             ? State::Several
-        : m_digest.isEmpty()   ? State::Empty
-                               : State::One;
+    m_state = records.empty() ? State::NoRecords
+        : !areSame            ? State::Several
+        : m_digest.isEmpty()  ? State::Empty
+                              : State::One;
     if (m_state == State::One && !m_loader.picture(m_digest))
         m_loader.load(m_digest, records.front()->fileURL());
     m_facts->setText(m_state == State::One ? factsOf(*records.front()) : QString());

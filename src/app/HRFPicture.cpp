@@ -65,10 +65,10 @@ HRFResult<QByteArray> fromFile(const QString &path)
     if (file.error() != QFileDevice::NoError)
         return std::unexpected(errorOf(path, file.errorString()));
     if (!bitmapImageType(data) || !bitmapImageSize(data))
-        return std::unexpected(
-            errorOf(path,
-                    QCoreApplication::translate("HRFPicture", "“%1” is no picture that can be used.")
-                        .arg(QFileInfo(path).fileName())));
+        return std::unexpected(errorOf(
+            path,
+            QCoreApplication::translate("HRFPicture", "“%1” is no picture that can be used.")
+                .arg(QFileInfo(path).fileName())));
     return data;
 }
 

@@ -84,9 +84,8 @@ HRFSidebarDialog::HRFSidebarDialog(QWidget *parent)
     auto *panes = new QHBoxLayout;
     for (QWidget *pane : {makeGroupsPane(), makeFieldsPane(), makeChoicePane()})
         panes->addWidget(pane);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel
-                                             | QDialogButtonBox::RestoreDefaults,
-                                         this);
+    auto *buttons = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::RestoreDefaults, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &HRFSidebarDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &HRFSidebarDialog::reject);
     connect(buttons->button(QDialogButtonBox::RestoreDefaults), &QPushButton::clicked, this,
@@ -157,8 +156,8 @@ HRFViewConfigManager::Groups HRFSidebarDialog::groups() const
     HRFViewConfigManager::Groups groups;
     for (int row = 0; row < m_groups->count(); ++row) {
         const QListWidgetItem &item = *m_groups->item(row);
-        groups.push_back({item.text(), item.data(Names).toStringList(),
-                          item.data(IsCollapsed).toBool()});
+        groups.push_back(
+            {item.text(), item.data(Names).toStringList(), item.data(IsCollapsed).toBool()});
     }
     return groups;
 }

@@ -130,11 +130,12 @@ void HRFSidebarTextField::show(const HRFCommonValue &common)
     // Two files cannot have one name.
     m_isReadOnly =
         !column().isEditable() || (column().attribute()->isFilename() && common.recordCount > 1);
-    const QString shown = column().isEditable() ? HRFFieldText::textOf(column(), common.value)
-                                                : common.text;
+    const QString shown =
+        column().isEditable() ? HRFFieldText::textOf(column(), common.value) : common.text;
     m_hasValue = !common.isSame || !shown.isEmpty();
-    setPlaceholder(common.isSame ? hint() : column().isQuantity() ? tr("Multiple")
-                                                                  : multipleValues());
+    setPlaceholder(common.isSame               ? hint()
+                       : column().isQuantity() ? tr("Multiple")
+                                               : multipleValues());
     setReadOnly(m_isReadOnly);
     if (text() != shown || !m_hasValue)
         setText(shown);

@@ -42,7 +42,9 @@ void HRFThumbnails::startLoading()
         ++m_running;
         m_reading.run([reference = m_weakSelf.reference(), next] {
             QImage image;
-            HRFMainThread::runLoggingFailures([&] { image = HRFPicture::scaled(HRFPicture::inFile(next.fileURL), {size, size}); });
+            HRFMainThread::runLoggingFailures([&] {
+                image = HRFPicture::scaled(HRFPicture::inFile(next.fileURL), {size, size});
+            });
             HRFMainThread::run(
                 [reference, digest = next.digest, image = std::move(image)] {
                     if (HRFThumbnails *self = reference.get())

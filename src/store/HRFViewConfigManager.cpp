@@ -109,8 +109,8 @@ HRFViewConfigManager::Groups HRFViewConfigManager::defaultGroups()
 {
     Groups groups;
     for (const DefaultRow &row : defaultRows)
-        groups.push_back({tr(row.title), QString(row.attributeNames).split(nameSeparator),
-                          row.isCollapsed});
+        groups.push_back(
+            {tr(row.title), QString(row.attributeNames).split(nameSeparator), row.isCollapsed});
     return groups;
 }
 

@@ -1,29 +1,9 @@
-#include "app/HRFListWindow.h"
-
-#include "app/HRFApplicationDelegate.h"
-#include "app/HRFFileURIs.h"
 #include "app/HRFFilterMenu.h"
-#include "app/HRFListColumn.h"
-#include "app/HRFListCommands.h"
-#include "app/HRFListHeader.h"
-#include "app/HRFListModel.h"
-#include "app/HRFListView.h"
-#include "document/HRFPlaylist.h"
-#include "kit/HRFUserDefaults.h"
-#include "store/HRFDataFolder.h"
-#include "support/HRFScriptedInteraction.h"
-#include "support/HRFTestApplication.h"
-#include "support/HRFTestFile.h"
+#include "app/HRFTestWithWindow.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QBuffer>
-#include <QDir>
-#include <QDropEvent>
 #include <QImage>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPointer>
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
@@ -31,130 +11,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// The program's window, as the user has it before them.
-class HRFListWindowTest : public HRFTestWithApplication<QApplication>
-{
-protected:
-    HRFListWindowTest() : dataFolder(*HRFDataFolder::take(path(u"data"_s)))
-    {
-        HRFUserDefaults::standard().setFilePath(path(u"settings.ini"_s));
-        QDir().mkpath(path(u"music"_s));
-        open();
-    }
-    void TearDown() override
-    {
-        close();
-        HRFTestWithApplication::TearDown();
-        HRFUserDefaults::standard().setFilePath({});
-    }
-
-    void open()
-    {
-        application = std::make_unique<HRFApplicationDelegate>();
-        window = &application->newList();
-    }
-    void close()
-    {
-        application.reset();
-        HRFBackground::waitUntilIdle();
-    }
-
-    HRFFileReference music(const QString &name) const
-    {
-        return HRFFileReference::fromPath(path(u"music/"_s + name));
-    }
-    void makeFile(const QString &name, const HRFTagValues &values) const
-    {
-        HRFTestFile file = HRFTestFile::fixture("id3v23.mp3");
-        file.set(values);
-        QFile copy(path(u"music/"_s + name));
-        ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
-        copy.write(file.bytes);
-    }
-    /// Three files of two artists: "b.mp3", "a.mp3", "c.mp3".
-    void makeFiles() const
-    {
-        makeFile(u"a.mp3"_s, {{HRFTagKey::title, u"Two"_s}, {HRFTagKey::artist, u"Ann"_s}});
-        makeFile(u"b.mp3"_s, {{HRFTagKey::title, u"One"_s}, {HRFTagKey::artist, u"Bob"_s}});
-        makeFile(u"c.mp3"_s, {{HRFTagKey::title, u"Three"_s}, {HRFTagKey::artist, u"Ann"_s}});
-    }
-    void drop(const std::vector<HRFFileReference> &files) const
-    {
-        const auto data = HRFFileURIs::mimeData(files);
-        QDragEnterEvent enter({50, 50}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(window, &enter);
-        ASSERT_TRUE(enter.isAccepted());
-        QDropEvent event(QPointF(50, 50), Qt::CopyAction, data.get(), Qt::LeftButton, {});
-        QApplication::sendEvent(window, &event);
-    }
-    void dropFolder(int expectedRows) const
-    {
-        drop({music(u""_s)});
-        waitUntil([&] { return window->model().rowCount() == expectedRows; });
-        waitForWork();
-    }
-    static void waitForWork()
-    {
-        HRFBackground::waitUntilIdle();
-        QCoreApplication::processEvents();
-        waitUntil([] { return HRFMetaFileManager::fileOperationQueue().operationCount() == 0; });
-    }
-
-    static int column(const QString &name) { return HRFListColumns::indexOf(name); }
-    QModelIndex cell(int row, const QString &name) const
-    {
-        return window->model().index(row, column(name));
-    }
-    /// What a column shows from top to bottom.
-    std::vector<QString> texts(const QString &name) const
-    {
-        std::vector<QString> shown;
-        for (int row = 0; row < window->model().rowCount(); ++row)
-            shown.push_back(cell(row, name).data().toString());
-        return shown;
-    }
-    void click(const QModelIndex &index, Qt::KeyboardModifiers modifiers = {}) const
-    {
-        window->view().scrollTo(index);
-        QTest::mouseClick(window->view().viewport(), Qt::LeftButton, modifiers,
-                          window->view().visualRect(index).center());
-    }
-    /// Opens the editor of a cell, and types into it what is shown instead.
-    void type(const QModelIndex &index, const QString &text) const
-    {
-        window->header().setColumnShown(index.column(), true);
-        click(index);
-        window->commands().action(u"editCell"_s)->trigger();
-        const QPointer editor(window->findChild<QWidget *>(u"cellEditor"_s));
-        ASSERT_TRUE(editor);
-        QCoreApplication::processEvents(); // lets a name select its base
-        if (auto *field = qobject_cast<QLineEdit *>(editor))
-            field->selectAll();
-        QTest::keyClicks(editor, text);
-        QTest::keyClick(editor, Qt::Key_Return);
-        QCoreApplication::processEvents();
-        if (editor && editor->isVisible()) // Return was not accepted
-            QTest::keyClick(editor, Qt::Key_Escape);
-        delete editor; // so that it is not found again
-    }
-    static QString onDisk(const HRFFileReference &file, HRFTagKey key)
-    {
-        const auto engine = HRFTagEngine::initWithURL(file);
-        return engine ? (*engine)->valueForKey(key).toString() : u"no engine"_s;
-    }
-    /// Clicks the title of a column.
-    void sortBy(const QString &name, Qt::KeyboardModifiers modifiers = {}) const
-    {
-        const HRFListHeader &header = window->header();
-        const int x = header.sectionViewportPosition(column(name)) + 12;
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, modifiers, {x, header.height() / 2});
-    }
-
-    HRFScriptedInteraction user;
-    std::unique_ptr<HRFDataFolder> dataFolder;
-    std::unique_ptr<HRFApplicationDelegate> application;
-    HRFListWindow *window = nullptr;
-};
+using HRFListWindowTest = HRFTestWithWindow;
 
 TEST_F(HRFListWindowTest, editsADroppedFileAndTakesItBack)
 {
