@@ -12,6 +12,8 @@ HRFApplicationDelegate::HRFApplicationDelegate() = default;
 
 HRFApplicationDelegate::~HRFApplicationDelegate()
 {
+    for (const auto &window : m_windows)
+        window->document().setWindow(nullptr);
     m_windows.clear(); // before their lists
     HRFViewConfigManager::releaseSharedManager();
 }

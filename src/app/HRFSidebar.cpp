@@ -211,7 +211,7 @@ void HRFSidebar::refreshSome()
         if (!group->isExpanded())
             continue;
         for (HRFSidebarField *field : group->fields()) {
-            if (field->isModified() || m_stale.erase(field) == 0)
+            if (m_stale.erase(field) == 0)
                 continue;
             field->show(HRFCommonValue::of(field->column(), records));
             if (time.hasExpired(mostMilliseconds))

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -97,6 +98,37 @@ HRFSidebarDialog::HRFSidebarDialog(QWidget *parent)
     resize(usualSize);
 }
 
+/// Two buttons that move the current item of a list.
+std::vector<QAbstractButton *>
+HRFSidebarDialog::makeMovers(QListWidget &list, const QString &upTitle, const QString &downTitle)
+{
+    const auto make = [&](const QString &title, Qt::ArrowType arrow, int step) {
+        auto *button = new QToolButton(this);
+        button->setObjectName(list.objectName() + (step < 0 ? u"Up"_s : u"Down"_s));
+        button->setArrowType(arrow);
+        button->setAccessibleName(title);
+        button->setToolTip(title);
+        connect(button, &QAbstractButton::clicked, this, [this, &list, step] { move(list, step); });
+        return button;
+    };
+    return {make(upTitle, Qt::UpArrow, -1), make(downTitle, Qt::DownArrow, 1)};
+}
+
+void HRFSidebarDialog::move(QListWidget &list, int step)
+{
+    const int row = list.currentRow();
+    if (row < 0 || row + step < 0 || row + step >= list.count())
+        return;
+    {
+        const QSignalBlocker isOnTheWay(list);
+        QListWidgetItem *item = list.takeItem(row);
+        list.insertItem(row + step, item);
+        list.setCurrentItem(item);
+    }
+    if (&list == m_fields)
+        keepFields();
+}
+
 QWidget *HRFSidebarDialog::makeGroupsPane()
 {
     m_groups->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
@@ -106,7 +138,8 @@ QWidget *HRFSidebarDialog::makeGroupsPane()
     connect(addition, &QAbstractButton::clicked, this, &HRFSidebarDialog::addGroup);
     m_removeGroup = makeButton(u"removeGroup"_s, tr("&Delete"), this);
     connect(m_removeGroup, &QAbstractButton::clicked, this, &HRFSidebarDialog::removeGroup);
-    return makePane(tr("&Groups"), {m_groups}, {addition, m_removeGroup});
+    const auto movers = makeMovers(*m_groups, tr("Move Group Up"), tr("Move Group Down"));
+    return makePane(tr("&Groups"), {m_groups}, {movers[0], movers[1], addition, m_removeGroup});
 }
 
 QWidget *HRFSidebarDialog::makeFieldsPane()
@@ -117,7 +150,8 @@ QWidget *HRFSidebarDialog::makeFieldsPane()
     connect(m_fields->model(), &QAbstractItemModel::rowsMoved, this, &HRFSidebarDialog::keepFields);
     m_removeField = makeButton(u"removeField"_s, tr("&Remove"), this);
     connect(m_removeField, &QAbstractButton::clicked, this, &HRFSidebarDialog::removeFields);
-    return makePane(tr("&Fields of the Group"), {m_fields}, {m_removeField});
+    const auto movers = makeMovers(*m_fields, tr("Move Field Up"), tr("Move Field Down"));
+    return makePane(tr("&Fields of the Group"), {m_fields}, {movers[0], movers[1], m_removeField});
 }
 
 QWidget *HRFSidebarDialog::makeChoicePane()

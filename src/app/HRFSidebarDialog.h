@@ -25,6 +25,9 @@ private:
     QWidget *makeGroupsPane();
     QWidget *makeFieldsPane();
     QWidget *makeChoicePane();
+    std::vector<QAbstractButton *> makeMovers(QListWidget &list, const QString &upTitle,
+                                              const QString &downTitle);
+    void move(QListWidget &list, int step);
     void setGroups(const HRFViewConfigManager::Groups &groups);
     HRFViewConfigManager::Groups groups() const;
     void addGroup();

@@ -18,9 +18,8 @@ public:
     const HRFListColumn &column() const { return m_column; }
     QWidget &widget() const { return *m_widget; }
 
+    /// What is being entered stays.
     virtual void show(const HRFCommonValue &common) = 0;
-    /// Whether something was entered that has not been told of.
-    virtual bool isModified() const { return false; }
     /// Tells of what was entered; what is no value of the column is taken back.
     virtual void commit() { }
 

@@ -137,10 +137,20 @@ void HRFSidebarTextField::show(const HRFCommonValue &common)
                        : column().isQuantity() ? tr("Multiple")
                                                : multipleValues());
     setReadOnly(m_isReadOnly);
-    if (text() != shown || !m_hasValue)
-        setText(shown);
-    m_shown = text();
+    if (isModified()) {
+        m_shown = shown;
+    } else if (m_shown != shown) {
+        m_shown = shown;
+        restore();
+    }
     widget().setEnabled(common.recordCount > 0);
+}
+
+/// Fields keep some characters in their own way.
+void HRFSidebarTextField::restore()
+{
+    setText(m_shown);
+    m_shown = text();
 }
 
 QString HRFSidebarTextField::hint() const

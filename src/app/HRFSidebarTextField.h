@@ -15,7 +15,6 @@ public:
     static HRFSidebarTextField *make(const HRFListColumn &column, QWidget *parent);
 
     void show(const HRFCommonValue &common) override;
-    bool isModified() const override { return text() != m_shown; }
     void commit() override;
     bool eventFilter(QObject *object, QEvent *event) override;
 
@@ -33,7 +32,8 @@ protected:
     virtual QMenu *standardMenu() = 0;
 
 private:
-    void restore() { setText(m_shown); }
+    bool isModified() const { return text() != m_shown; }
+    void restore();
     QString hint() const;
     bool filterKey(QKeyEvent &key);
     void showMenu(const QPoint &position);
