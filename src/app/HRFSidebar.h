@@ -35,9 +35,11 @@ public:
     bool event(QEvent *event) override;
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    void chooseFaintColour();
     void makeGroups();
     void selectionDidChange();
     void contextDidChange(const HRFContextChanges &changes);

@@ -128,8 +128,6 @@ void HRFSidebarGroup::addRow(const HRFListColumn &column, QWidget &field,
     const bool isHigh = field.sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
     label->setContentsMargins(0, isHigh ? 4 : 0, 0, 0);
     label->setToolTip(column.attribute()->localizedDescription());
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
-    label->setPalette(palette);
+    label->setForegroundRole(QPalette::PlaceholderText);
     m_grid->addWidget(label, row, 0, isHigh ? Qt::AlignTop : Qt::Alignment());
 }
