@@ -133,9 +133,7 @@ void HRFSidebarTextField::show(const HRFCommonValue &common)
     const QString shown =
         column().isEditable() ? HRFFieldText::textOf(column(), common.value) : common.text;
     m_hasValue = !common.isSame || !shown.isEmpty();
-    setPlaceholder(common.isSame               ? hint()
-                       : column().isQuantity() ? tr("Multiple")
-                                               : multipleValues());
+    setPlaceholder(common.isSame ? hint() : multipleText());
     setReadOnly(m_isReadOnly);
     if (isModified()) {
         m_shown = shown;
@@ -156,6 +154,12 @@ void HRFSidebarTextField::restore()
 QString HRFSidebarTextField::hint() const
 {
     return column().kind == Kind::Date && !m_isReadOnly ? tr("YYYY-MM-DD") : QString();
+}
+
+/// The fields of numbers are narrow.
+QString HRFSidebarTextField::multipleText() const
+{
+    return column().isQuantity() && column().isEditable() ? tr("Multiple") : multipleValues();
 }
 
 void HRFSidebarTextField::commit()

@@ -35,6 +35,7 @@ private:
     bool isModified() const { return text() != m_shown; }
     void restore();
     QString hint() const;
+    QString multipleText() const;
     bool filterKey(QKeyEvent &key);
     void showMenu(const QPoint &position);
 
