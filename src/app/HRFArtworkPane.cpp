@@ -86,7 +86,8 @@ void HRFArtworkPane::refresh()
 
 void HRFArtworkPane::reload()
 {
-    m_loader.forget(m_digest);
+    if (const auto *present = picture(); present && present->data.isEmpty())
+        m_loader.forget(m_digest);
     refresh();
 }
 
@@ -128,38 +129,51 @@ QRect HRFArtworkPane::pictureArea() const
 
 void HRFArtworkPane::paintEvent(QPaintEvent * /*event*/)
 {
-    constexpr int iconSize = 40;
-    constexpr double radius = 6;
-    constexpr double opacity = 0.5;
+    constexpr int radius = 3;
+    const HRFPictureLoader::Picture *present = picture();
+    if (m_state == State::One && !present)
+        return; // it is about to come
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const HRFPictureLoader::Picture *present = picture();
-    QRect frame = pictureArea();
-    if (present && !present->image.isNull()) {
-        const QSizeF whole = QSizeF(present->image.size()) / devicePixelRatioF();
-        const QSize size = whole.width() > frame.width() || whole.height() > frame.height()
-            ? whole.scaled(frame.size(), Qt::KeepAspectRatio).toSize()
-            : whole.toSize();
-        frame = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, frame);
-        painter.drawImage(frame, present->image);
-    } else {
-        const int side = std::min(frame.width(), frame.height());
-        frame = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, {side, side}, frame);
-        painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
-        painter.drawRoundedRect(frame, radius, radius);
-        painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(frame.adjusted(margin, side / 2, -margin, -margin),
-                         Qt::AlignHCenter | Qt::TextWordWrap, placeholder());
-        painter.setOpacity(opacity);
-        static const QIcon icon = HRFIcons::named(u"artwork"_s);
-        icon.paint(&painter, frame.adjusted(0, 0, 0, -side / 3).center().x() - iconSize / 2,
-                   frame.center().y() - iconSize - margin, iconSize, iconSize);
-        painter.setOpacity(1);
-    }
-    if (hasFocus() || m_isDropTarget) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRoundedRect(frame, radius / 2, radius / 2);
-    }
+    const QRect frame = present && !present->image.isNull() ? paintPicture(painter, present->image)
+                                                            : paintPlaceholder(painter);
+    if (!hasFocus() && !m_isDropTarget)
+        return;
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(frame, radius, radius);
+}
+
+/// As large as there is room, but no larger than it is.
+QRect HRFArtworkPane::paintPicture(QPainter &painter, const QImage &image) const
+{
+    const QSize room = pictureArea().size();
+    const QSize whole = (QSizeF(image.size()) / devicePixelRatioF()).toSize();
+    const bool isTooLarge = whole.width() > room.width() || whole.height() > room.height();
+    const QSize size = isTooLarge ? whole.scaled(room, Qt::KeepAspectRatio) : whole;
+    const QRect frame =
+        QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, pictureArea());
+    painter.drawImage(frame, image);
+    return frame;
+}
+
+QRect HRFArtworkPane::paintPlaceholder(QPainter &painter) const
+{
+    constexpr int iconSize = 40;
+    constexpr int radius = 6;
+    constexpr double opacity = 0.5;
+    const int side = std::min(pictureArea().width(), pictureArea().height());
+    const QRect frame =
+        QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, {side, side}, pictureArea());
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DashLine));
+    painter.drawRoundedRect(frame, radius, radius);
+    painter.drawText(frame.adjusted(margin, side / 2, -margin, -margin),
+                     Qt::AlignHCenter | Qt::TextWordWrap, placeholder());
+    painter.setOpacity(opacity);
+    static const QIcon icon = HRFIcons::named(u"artwork"_s);
+    const QPoint corner = frame.center() - QPoint(iconSize / 2, iconSize + margin);
+    icon.paint(&painter, QRect(corner, QSize(iconSize, iconSize)));
+    painter.setOpacity(1);
+    return frame;
 }
 
 void HRFArtworkPane::setArtwork(const QByteArray &image)

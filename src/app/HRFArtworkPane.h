@@ -11,6 +11,7 @@ class HRFMetaFile;
 class HRFPlaylist;
 class QLabel;
 class QMimeData;
+class QPainter;
 
 /// The picture of the selected records: shows it, takes another that is dropped, pasted or chosen,
 /// copies, saves and removes it.
@@ -22,7 +23,7 @@ public:
 
     /// Looks at the records again.
     void refresh();
-    /// Also reads the picture anew.
+    /// Also tries again to read a picture that could not be read.
     void reload();
 
     /// Writes a picture into the files of the selected records; an empty one removes theirs.
@@ -55,6 +56,9 @@ private:
     QString factsOf(const HRFMetaFile &file) const;
     QString placeholder() const;
     QRect pictureArea() const;
+    /// These answer the frame of what they paint.
+    QRect paintPicture(QPainter &painter, const QImage &image) const;
+    QRect paintPlaceholder(QPainter &painter) const;
     const HRFPictureLoader::Picture *picture() const;
     void setDropTarget(bool isDropTarget);
 

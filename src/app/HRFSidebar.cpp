@@ -5,6 +5,7 @@
 #include "app/HRFSidebarField.h"
 #include "app/HRFSidebarGroup.h"
 #include "document/HRFPlaylist.h"
+#include "store/HRFArtworkProperties.h"
 #include "store/HRFMetaFile.h"
 #include "store/HRFSystemFile.h"
 #include "store/HRFViewConfigManager.h"
@@ -142,11 +143,17 @@ void HRFSidebar::commit()
 
 void HRFSidebar::focusFirstField()
 {
-    for (const HRFSidebarGroup *group : m_groups)
-        if (group->isExpanded())
-            for (const HRFSidebarField *field : group->fields())
-                if (field->column().isEditable() && field->widget().isEnabled())
-                    return field->widget().setFocus(Qt::ShortcutFocusReason);
+    for (const HRFSidebarGroup *group : m_groups) {
+        const auto found = std::ranges::find_if(group->fields(), [](const HRFSidebarField *field) {
+            return field->column().isEditable() && field->widget().isEnabled();
+        });
+        if (!group->isExpanded() || found == group->fields().end())
+            continue;
+        QWidget &first = (*found)->widget();
+        first.setFocus(Qt::ShortcutFocusReason);
+        ensureWidgetVisible(&first);
+        return;
+    }
 }
 
 /// Delete is a key of fields and of the picture; here it never takes files out of the list.
@@ -200,9 +207,12 @@ void HRFSidebar::contextDidChange(const HRFContextChanges &changes)
                 || changed.value(attribute.entity->name) & HRFPropertyBit(attribute.index))
                 makeStale(field);
         }
-    if (changed.contains(HRFSystemFile::entityName()))
+    const QString shownAbove[] = {HRFMetaFile::entityName(), HRFSystemFile::entityName(),
+                                  HRFArtworkProperties::entityName()};
+    if (std::ranges::any_of(shownAbove,
+                            [&](const QString &name) { return changed.contains(name); }))
         m_isSummaryStale = true;
-    m_artwork->refresh();
+    m_refresh.start();
 }
 
 void HRFSidebar::showSummary()

@@ -202,8 +202,10 @@ bool HRFSidebarTextField::filterKey(QKeyEvent &key)
     }
     if (!isEnd(key))
         return false;
-    commit();
-    selectAll();
+    if (isAcceptable()) {
+        commit();
+        selectAll();
+    }
     return true;
 }
 

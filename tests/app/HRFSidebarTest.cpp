@@ -118,6 +118,7 @@ TEST_F(HRFSidebarTest, writesOnlyWhatWasTyped)
     EXPECT_EQ(field(u"artist"_s)->text(), QString());
     field(u"artist"_s)->clearFocus();
     enter(field(u"releaseTime"_s), u"2023-02-29"_s); // there was no such day
+    EXPECT_EQ(field(u"releaseTime"_s)->text(), u"2023-02-29"_s); // to be put right
     enter(field(u"releaseTime"_s), u"2023-02-29"_s, Qt::Key_Tab);
     EXPECT_EQ(field(u"releaseTime"_s)->text(), QString());
     EXPECT_TRUE(field(u"fileName"_s)->isReadOnly()); // three files cannot have one name
