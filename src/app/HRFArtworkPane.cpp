@@ -94,11 +94,11 @@ void HRFArtworkPane::reload()
 QString HRFArtworkPane::factsOf(const HRFMetaFile &file) const
 {
     QStringList facts;
-    for (const QString &name : {u"imageType"_s, u"imageSize"_s, u"imageDataSize"_s})
-        if (const QString fact =
-                HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))].text(file);
-            !fact.isEmpty())
-            facts.append(fact);
+    for (const QString &name : {u"imageType"_s, u"imageSize"_s, u"imageDataSize"_s}) {
+        const int column = HRFListColumns::indexOf(name);
+        facts.append(HRFListColumns::all()[std::size_t(column)].text(file));
+    }
+    facts.removeAll(QString());
     return facts.join(u"  ·  "_s);
 }
 

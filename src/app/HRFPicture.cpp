@@ -64,11 +64,11 @@ HRFResult<QByteArray> fromFile(const QString &path)
     QByteArray data = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return std::unexpected(errorOf(path, file.errorString()));
-    if (!bitmapImageType(data) || !bitmapImageSize(data))
-        return std::unexpected(errorOf(
-            path,
-            QCoreApplication::translate("HRFPicture", "“%1” is no picture that can be used.")
-                .arg(QFileInfo(path).fileName())));
+    const bool isUsable = bitmapImageType(data) && bitmapImageSize(data);
+    const QString refusal =
+        QCoreApplication::translate("HRFPicture", "“%1” is no picture that can be used.");
+    if (!isUsable)
+        return std::unexpected(errorOf(path, refusal.arg(QFileInfo(path).fileName())));
     return data;
 }
 

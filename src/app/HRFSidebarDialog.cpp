@@ -87,6 +87,8 @@ HRFSidebarDialog::HRFSidebarDialog(QWidget *parent)
         panes->addWidget(pane);
     auto *buttons = new QDialogButtonBox(
         QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::RestoreDefaults, this);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    buttons->button(QDialogButtonBox::RestoreDefaults)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::accepted, this, &HRFSidebarDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &HRFSidebarDialog::reject);
     connect(buttons->button(QDialogButtonBox::RestoreDefaults), &QPushButton::clicked, this,
