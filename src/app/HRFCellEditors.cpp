@@ -6,6 +6,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using Kind = HRFListColumnKind;
@@ -18,9 +19,9 @@ constexpr auto initialProperty = "initialValue";
 void selectBaseName(QLineEdit *field)
 {
     const auto dot = int(field->text().lastIndexOf(u'.'));
-    QMetaObject::invokeMethod( // the view selects all when it opens the editor
-        field, [field, dot] { field->setSelection(0, dot > 0 ? dot : int(field->text().size())); },
-        Qt::QueuedConnection);
+    QTimer::singleShot(0, field, [field, dot] { // the view selects all when it opens the editor
+        field->setSelection(0, dot > 0 ? dot : int(field->text().size()));
+    });
 }
 
 QWidget *makeField(const HRFListColumn &column, const QString &text, QWidget *parent)

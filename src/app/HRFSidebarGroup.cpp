@@ -44,7 +44,8 @@ HRFSidebarGroup::HRFSidebarGroup(const HRFTagsViewGroup &group, QWidget *parent)
     QFont bold = font();
     bold.setBold(true);
     m_title->setFont(bold);
-    m_title->setText(group.title);
+    m_title->setText(QString(group.title).replace(u'&', u"&&"_s));
+    m_title->setAccessibleName(group.title);
     m_title->setObjectName(u"title"_s);
     m_title->setAutoRaise(true);
     m_title->setFocusPolicy(Qt::TabFocus);
