@@ -105,26 +105,32 @@ void HRFSidebar::makeGroups()
     auto *groups = new QWidget(m_content);
     auto *layout = new QVBoxLayout(groups);
     layout->setContentsMargins(margin / 2, 0, margin / 2, margin);
-    HRFViewConfigManager &configuration = HRFViewConfigManager::sharedManager();
-    for (std::size_t index = 0; index < configuration.groups().size(); ++index) {
-        auto *group = new HRFSidebarGroup(configuration.groups()[index], groups);
-        group->setObjectName(u"group.%1"_s.arg(index));
-        layout->addWidget(group);
-        m_groups.push_back(group);
-        for (HRFSidebarField *field : group->fields())
-            connect(field, &HRFSidebarField::didEdit, this, [this, field](const QVariant &value) {
-                edit(field->column(), value);
-                makeStale(field); // shows the value as it was understood
-            });
-        connect(group, &HRFSidebarGroup::didToggle, this, [this, index](bool isExpanded) {
-            HRFViewConfigManager::sharedManager().setCollapsed(index, !isExpanded);
-            m_refresh.start();
-        });
-    }
+    for (std::size_t index = 0; index < HRFViewConfigManager::sharedManager().groups().size();
+         ++index)
+        layout->addWidget(makeGroup(index, groups));
     layout->addStretch();
     delete std::exchange(m_groupsPane, groups);
     m_content->layout()->addWidget(groups);
     makeAllStale();
+}
+
+HRFSidebarGroup *HRFSidebar::makeGroup(std::size_t index, QWidget *parent)
+{
+    auto *group =
+        new HRFSidebarGroup(HRFViewConfigManager::sharedManager().groups()[index], parent);
+    group->setObjectName(u"group.%1"_s.arg(index));
+    m_groups.push_back(group);
+    for (HRFSidebarField *field : group->fields()) {
+        connect(field, &HRFSidebarField::didEdit, this, [this, field](const QVariant &value) {
+            edit(field->column(), value);
+            makeStale(field); // shows the value as it was understood
+        });
+    }
+    connect(group, &HRFSidebarGroup::didToggle, this, [this, index](bool isExpanded) {
+        HRFViewConfigManager::sharedManager().setCollapsed(index, !isExpanded);
+        m_refresh.start();
+    });
+    return group;
 }
 
 void HRFSidebar::configure()
@@ -199,7 +205,7 @@ void HRFSidebar::contextDidChange(const HRFContextChanges &changes)
     const QHash<QString, HRFPropertySet> changed = changedProperties(changes);
     if (changed.isEmpty())
         return;
-    for (const HRFSidebarGroup *group : m_groups)
+    for (const HRFSidebarGroup *group : m_groups) {
         for (HRFSidebarField *field : group->fields()) {
             const HRFAttributeDescription &attribute = *field->column().attribute();
             // Where a file is follows from its URL and its name.
@@ -207,11 +213,11 @@ void HRFSidebar::contextDidChange(const HRFContextChanges &changes)
                 || changed.value(attribute.entity->name) & HRFPropertyBit(attribute.index))
                 makeStale(field);
         }
+    }
     const QString shownAbove[] = {HRFMetaFile::entityName(), HRFSystemFile::entityName(),
                                   HRFArtworkProperties::entityName()};
-    if (std::ranges::any_of(shownAbove,
-                            [&](const QString &name) { return changed.contains(name); }))
-        m_isSummaryStale = true;
+    m_isSummaryStale |= std::ranges::any_of(
+        shownAbove, [&](const QString &name) { return changed.contains(name); });
     m_refresh.start();
 }
 

@@ -41,6 +41,7 @@ protected:
 private:
     void chooseFaintColour();
     void makeGroups();
+    HRFSidebarGroup *makeGroup(std::size_t index, QWidget *parent);
     void selectionDidChange();
     void contextDidChange(const HRFContextChanges &changes);
     void makeStale(HRFSidebarField *field);

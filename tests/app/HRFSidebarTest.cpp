@@ -5,6 +5,7 @@
 #include "app/HRFStars.h"
 #include "app/HRFTestWithWindow.h"
 #include "store/HRFMetaFile.h"
+#include "store/HRFMetaTags.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -124,6 +125,32 @@ TEST_F(HRFSidebarTest, writesOnlyWhatWasTyped)
     EXPECT_TRUE(field(u"fileName"_s)->isReadOnly()); // three files cannot have one name
     EXPECT_THAT(filesSay(HRFTagKey::artist), ElementsAre(u"Ann"_s, u"Bob"_s, u"Ann"_s));
     EXPECT_FALSE(window->canUndo());
+}
+
+TEST_F(HRFSidebarTest, removesValuesThatDifferAndTakesThatBackByKey)
+{
+    makeFiles();
+    makeFile(u"c.mp3"_s, {{HRFTagKey::title, u"Three"_s}, {HRFTagKey::sortTitle, u"3"_s}});
+    dropFolder(3);
+    waitForText(u"title"_s, QString());
+    QLineEdit *title = field(u"title"_s);
+    Q_EMIT title->customContextMenuRequested({});
+    auto *removal = title->findChild<QAction *>(u"removeValue"_s);
+    ASSERT_TRUE(removal && removal->isEnabled());
+    removal->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_THAT(filesSay(HRFTagKey::title), Each(QString()));
+    window->activateWindow(); // which the menu was instead
+    waitUntil([&] { return QApplication::activeWindow() == window; });
+    title->setFocus();
+    QTest::keyClick(title, Qt::Key_Z, Qt::ControlModifier); // the field has nothing to undo
+    EXPECT_THAT(filesSay(HRFTagKey::title), ElementsAre(u"Two"_s, u"One"_s, u"Three"_s));
+    EXPECT_EQ(title->placeholderText(), u"Multiple values"_s);
+    window->document().setSelectedFiles({&window->model().recordAt(2)});
+    waitForText(u"title"_s, window->model().recordAt(2).tags().valueForKey(u"title"_s).toString());
+    EXPECT_EQ(field(u"sortTitle"_s)->text(), QString()); // in a group that is not shown
+    window->sidebar().findChildren<QToolButton *>(u"title"_s).at(3)->click();
+    waitForText(u"sortTitle"_s, u"3"_s);
 }
 
 TEST_F(HRFSidebarTest, givesWhatWasTypedToTheFilesItWasTypedFor)
