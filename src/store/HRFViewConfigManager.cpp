@@ -52,12 +52,13 @@ constexpr DefaultRow defaultRows[] = {
 HRFViewConfigManager::Groups showable(HRFViewConfigManager::Groups groups)
 {
     QSet<QString> seen;
-    for (HRFTagsViewGroup &group : groups)
+    for (HRFTagsViewGroup &group : groups) {
         group.attributeNames.removeIf([&seen](const QString &name) {
             const bool isNew = !seen.contains(name);
             seen.insert(name);
             return !isNew || !HRFAttributeManager::sharedManager().attributeNamed(name);
         });
+    }
     return groups;
 }
 
@@ -120,12 +121,12 @@ void HRFViewConfigManager::readGroups()
     std::ranges::stable_sort(records, {}, [](const HRFManagedObject *record) {
         return record->valueForKey(u"sortIndex"_s).toLongLong();
     });
-    for (const HRFManagedObject *record : records)
+    for (const HRFManagedObject *record : records) {
+        const QString names = record->valueForKey(u"attributeNames"_s).toString();
         m_groups.push_back({record->valueForKey(u"title"_s).toString(),
-                            record->valueForKey(u"attributeNames"_s)
-                                .toString()
-                                .split(nameSeparator, Qt::SkipEmptyParts),
+                            names.split(nameSeparator, Qt::SkipEmptyParts),
                             record->valueForKey(u"isCollapsed"_s).toBool()});
+    }
     m_groups = showable(std::move(m_groups));
 }
 
