@@ -77,6 +77,65 @@
     </message>
 </context>
 <context>
+    <name>HRFArtworkPane</name>
+    <message>
+        <source>Artwork</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>Drop a picture here</source>
+        <translation>Ein Bild hier ablegen</translation>
+    </message>
+    <message>
+        <source>Several pictures</source>
+        <translation>Mehrere Bilder</translation>
+    </message>
+    <message>
+        <source>Cannot be shown</source>
+        <translation>Kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Set Artwork</source>
+        <translation>Cover setzen</translation>
+    </message>
+    <message>
+        <source>Choose Picture</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild sichern</translation>
+    </message>
+    <message>
+        <source>Choose Picture…</source>
+        <translation>Bild wählen…</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einsetzen</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Sichern unter…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
     <name>HRFAttributeDescription</name>
     <message>
         <source>Number could not be parsed</source>
@@ -450,6 +509,10 @@
     <message>
         <source>&amp;Debug</source>
         <translation>Deb&amp;ug</translation>
+    </message>
+    <message>
+        <source>Drop View Configurations</source>
+        <translation>Ansichten verwerfen</translation>
     </message>
 </context>
 <context>
@@ -973,6 +1036,18 @@
         <source>Properties</source>
         <translation>Eigenschaften</translation>
     </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Change Extension</source>
+        <translation>Endung ändern</translation>
+    </message>
+    <message>
+        <source>Edit %1</source>
+        <translation>%1 bearbeiten</translation>
+    </message>
 </context>
 <context>
     <name>HRFListCommands</name>
@@ -1140,6 +1215,30 @@
         <source>&amp;Sort By</source>
         <translation>&amp;Sortieren nach</translation>
     </message>
+    <message>
+        <source>Edit in Si&amp;debar</source>
+        <translation>In &amp;Seitenleiste bearbeiten</translation>
+    </message>
+    <message>
+        <source>Go to the first field of the sidebar</source>
+        <translation>Zum ersten Feld der Seitenleiste gehen</translation>
+    </message>
+    <message>
+        <source>S&amp;idebar</source>
+        <translation>Seiten&amp;leiste</translation>
+    </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>Die Seitenleiste zeigen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Co&amp;nfigure Sidebar…</source>
+        <translation>Seitenleiste &amp;einrichten…</translation>
+    </message>
+    <message>
+        <source>Choose which fields the sidebar shows</source>
+        <translation>Wählen, welche Felder die Seitenleiste zeigt</translation>
+    </message>
 </context>
 <context>
     <name>HRFListHeader</name>
@@ -1162,13 +1261,6 @@
     <message>
         <source>Hide “%1”</source>
         <translation>„%1“ ausblenden</translation>
-    </message>
-</context>
-<context>
-    <name>HRFListModel</name>
-    <message>
-        <source>Edit %1</source>
-        <translation>%1 bearbeiten</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1443,13 @@
     <message>
         <source>Try a pattern with fewer repetitions.</source>
         <translation>Versuchen Sie ein Muster mit weniger Wiederholungen.</translation>
+    </message>
+</context>
+<context>
+    <name>HRFPicture</name>
+    <message>
+        <source>“%1” is no picture that can be used.</source>
+        <translation>„%1“ ist kein Bild, das verwendet werden kann.</translation>
     </message>
 </context>
 <context>
@@ -1743,6 +1842,137 @@
     </message>
 </context>
 <context>
+    <name>HRFSidebar</name>
+    <message>
+        <source>Sidebar</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>No file selected</source>
+        <translation>Keine Datei ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarDialog</name>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Fields of the Group</source>
+        <translation>Felder der Gruppe</translation>
+    </message>
+    <message>
+        <source>Configure Sidebar</source>
+        <translation>Seitenleiste einrichten</translation>
+    </message>
+    <message>
+        <source>Drag groups to order them, double-click one to name it</source>
+        <translation>Gruppen durch Ziehen ordnen, durch Doppelklick benennen</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Move Group Up</source>
+        <translation>Gruppe nach oben</translation>
+    </message>
+    <message>
+        <source>Move Group Down</source>
+        <translation>Gruppe nach unten</translation>
+    </message>
+    <message>
+        <source>&amp;Groups</source>
+        <translation>&amp;Gruppen</translation>
+    </message>
+    <message>
+        <source>Drag fields to order them</source>
+        <translation>Felder durch Ziehen ordnen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Move Field Up</source>
+        <translation>Feld nach oben</translation>
+    </message>
+    <message>
+        <source>Move Field Down</source>
+        <translation>Feld nach unten</translation>
+    </message>
+    <message>
+        <source>&amp;Fields of the Group</source>
+        <translation>&amp;Felder der Gruppe</translation>
+    </message>
+    <message>
+        <source>Other Fields</source>
+        <translation>Andere Felder</translation>
+    </message>
+    <message>
+        <source>Find Field</source>
+        <translation>Feld suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Group</source>
+        <translation>Zur Gruppe &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Other Fields</source>
+        <translation>&amp;Andere Felder</translation>
+    </message>
+    <message>
+        <source>New Group</source>
+        <translation>Neue Gruppe</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarField</name>
+    <message>
+        <source>Multiple values</source>
+        <translation>Mehrere Werte</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarGroup</name>
+    <message>
+        <source>Hide the fields of this group</source>
+        <translation>Die Felder dieser Gruppe ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the fields of this group</source>
+        <translation>Die Felder dieser Gruppe zeigen</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>von</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarTextField</name>
+    <message>
+        <source>YYYY-MM-DD</source>
+        <translation>JJJJ-MM-TT</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Mehrere</translation>
+    </message>
+    <message>
+        <source>Remove Value</source>
+        <translation>Wert entfernen</translation>
+    </message>
+</context>
+<context>
     <name>HRFStarsEditor</name>
     <message>
         <source>Rating</source>
@@ -1940,6 +2170,45 @@
     <message>
         <source>%1 bit</source>
         <translation>%1 Bit</translation>
+    </message>
+</context>
+<context>
+    <name>HRFViewConfigManager</name>
+    <message>
+        <source>Basic</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>People</source>
+        <translation>Personen</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Werk</translation>
+    </message>
+    <message>
+        <source>Sorting</source>
+        <translation>Sortierung</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Liedtext</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Weiteres</translation>
+    </message>
+    <message>
+        <source>Podcast</source>
+        <translation>Podcast</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,65 @@
     </message>
 </context>
 <context>
+    <name>HRFArtworkPane</name>
+    <message>
+        <source>Artwork</source>
+        <translation>封面</translation>
+    </message>
+    <message>
+        <source>Drop a picture here</source>
+        <translation>将图片拖到此处</translation>
+    </message>
+    <message>
+        <source>Several pictures</source>
+        <translation>多张图片</translation>
+    </message>
+    <message>
+        <source>Cannot be shown</source>
+        <translation>无法显示</translation>
+    </message>
+    <message>
+        <source>Set Artwork</source>
+        <translation>设置封面</translation>
+    </message>
+    <message>
+        <source>Choose Picture</source>
+        <translation>选择图片</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>图片 (%1)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>存储图片</translation>
+    </message>
+    <message>
+        <source>Choose Picture…</source>
+        <translation>选择图片…</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>拷贝</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>存储为…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+</context>
+<context>
     <name>HRFAttributeDescription</name>
     <message>
         <source>Number could not be parsed</source>
@@ -450,6 +509,10 @@
     <message>
         <source>&amp;Debug</source>
         <translation>调试(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Drop View Configurations</source>
+        <translation>丢弃视图配置</translation>
     </message>
 </context>
 <context>
@@ -973,6 +1036,18 @@
         <source>Properties</source>
         <translation>属性</translation>
     </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Change Extension</source>
+        <translation>更改扩展名</translation>
+    </message>
+    <message>
+        <source>Edit %1</source>
+        <translation>编辑%1</translation>
+    </message>
 </context>
 <context>
     <name>HRFListCommands</name>
@@ -1140,6 +1215,30 @@
         <source>&amp;Sort By</source>
         <translation>排序方式(&amp;S)</translation>
     </message>
+    <message>
+        <source>Edit in Si&amp;debar</source>
+        <translation>在侧边栏中编辑(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Go to the first field of the sidebar</source>
+        <translation>转到侧边栏的第一个字段</translation>
+    </message>
+    <message>
+        <source>S&amp;idebar</source>
+        <translation>侧边栏(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Show or hide the sidebar</source>
+        <translation>显示或隐藏侧边栏</translation>
+    </message>
+    <message>
+        <source>Co&amp;nfigure Sidebar…</source>
+        <translation>配置侧边栏(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Choose which fields the sidebar shows</source>
+        <translation>选择侧边栏显示的字段</translation>
+    </message>
 </context>
 <context>
     <name>HRFListHeader</name>
@@ -1162,13 +1261,6 @@
     <message>
         <source>Hide “%1”</source>
         <translation>隐藏“%1”</translation>
-    </message>
-</context>
-<context>
-    <name>HRFListModel</name>
-    <message>
-        <source>Edit %1</source>
-        <translation>编辑%1</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1443,13 @@
     <message>
         <source>Try a pattern with fewer repetitions.</source>
         <translation>请尝试重复较少的模式。</translation>
+    </message>
+</context>
+<context>
+    <name>HRFPicture</name>
+    <message>
+        <source>“%1” is no picture that can be used.</source>
+        <translation>“%1”不是可用的图片。</translation>
     </message>
 </context>
 <context>
@@ -1743,6 +1842,137 @@
     </message>
 </context>
 <context>
+    <name>HRFSidebar</name>
+    <message>
+        <source>Sidebar</source>
+        <translation>侧边栏</translation>
+    </message>
+    <message>
+        <source>No file selected</source>
+        <translation>未选择文件</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 个文件</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarDialog</name>
+    <message>
+        <source>Groups</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>Fields of the Group</source>
+        <translation>分组中的字段</translation>
+    </message>
+    <message>
+        <source>Configure Sidebar</source>
+        <translation>配置侧边栏</translation>
+    </message>
+    <message>
+        <source>Drag groups to order them, double-click one to name it</source>
+        <translation>拖动分组以排序，双击以命名</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Move Group Up</source>
+        <translation>上移分组</translation>
+    </message>
+    <message>
+        <source>Move Group Down</source>
+        <translation>下移分组</translation>
+    </message>
+    <message>
+        <source>&amp;Groups</source>
+        <translation>分组(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Drag fields to order them</source>
+        <translation>拖动字段以排序</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Move Field Up</source>
+        <translation>上移字段</translation>
+    </message>
+    <message>
+        <source>Move Field Down</source>
+        <translation>下移字段</translation>
+    </message>
+    <message>
+        <source>&amp;Fields of the Group</source>
+        <translation>分组中的字段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Other Fields</source>
+        <translation>其他字段</translation>
+    </message>
+    <message>
+        <source>Find Field</source>
+        <translation>查找字段</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Group</source>
+        <translation>添加到分组(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Other Fields</source>
+        <translation>其他字段(&amp;O)</translation>
+    </message>
+    <message>
+        <source>New Group</source>
+        <translation>新分组</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarField</name>
+    <message>
+        <source>Multiple values</source>
+        <translation>多个值</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarGroup</name>
+    <message>
+        <source>Hide the fields of this group</source>
+        <translation>隐藏此分组的字段</translation>
+    </message>
+    <message>
+        <source>Show the fields of this group</source>
+        <translation>显示此分组的字段</translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation>/</translation>
+    </message>
+</context>
+<context>
+    <name>HRFSidebarTextField</name>
+    <message>
+        <source>YYYY-MM-DD</source>
+        <translation>YYYY-MM-DD</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>多个</translation>
+    </message>
+    <message>
+        <source>Remove Value</source>
+        <translation>移除值</translation>
+    </message>
+</context>
+<context>
     <name>HRFStarsEditor</name>
     <message>
         <source>Rating</source>
@@ -1940,6 +2170,45 @@
     <message>
         <source>%1 bit</source>
         <translation>%1 位</translation>
+    </message>
+</context>
+<context>
+    <name>HRFViewConfigManager</name>
+    <message>
+        <source>Basic</source>
+        <translation>基本</translation>
+    </message>
+    <message>
+        <source>People</source>
+        <translation>人员</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>作品</translation>
+    </message>
+    <message>
+        <source>Sorting</source>
+        <translation>排序</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>歌词</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>Podcast</source>
+        <translation>播客</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
     </message>
 </context>
 <context>

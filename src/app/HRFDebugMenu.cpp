@@ -3,6 +3,7 @@
 #include "app/HRFApplicationDelegate.h"
 #include "kit/HRFUserDefaults.h"
 #include "store/HRFAttributeManager.h"
+#include "store/HRFViewConfigManager.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,9 +11,20 @@ namespace {
 
 const QString settingKey = u"lirra.general.showsDebugMenu"_s;
 
-void dropStores()
+void dropAttributes()
 {
     HRFAttributeManager::sharedManager().resetDatabase();
+}
+
+void dropViewConfigurations()
+{
+    HRFViewConfigManager::sharedManager().resetDatabase();
+}
+
+void dropStores()
+{
+    dropAttributes();
+    dropViewConfigurations();
 }
 
 void resetDefaults()
@@ -34,7 +46,10 @@ constexpr struct
     bool endsProgram = false; ///< a store that was reset cannot be used any more
 } commands[] = {
     {"dropDatabases"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Drop Databases"), &dropStores, true},
-    {"dropAttributes"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Drop Attributes"), &dropStores, true},
+    {"dropViewConfigurations"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Drop View Configurations"),
+     &dropViewConfigurations, true},
+    {"dropAttributes"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Drop Attributes"), &dropAttributes,
+     true},
     {"resetDefaults"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Reset Defaults"), &resetDefaults,
      false},
     {"resetAll"_L1, QT_TRANSLATE_NOOP("HRFDebugMenu", "Reset All"), &resetAll, true},
