@@ -2,11 +2,11 @@
 
 #include "app/HRFFieldText.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -83,6 +83,12 @@ protected:
     }
     void selectAll() override { m_lines.selectAll(); }
     QMenu *standardMenu() override { return m_lines.createStandardContextMenu(); }
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize) // lines are broken elsewhere, when that is done
+            QTimer::singleShot(0, this, &LinesField::fitHeight);
+        return HRFSidebarTextField::eventFilter(object, event);
+    }
 
 private:
     LinesField(const HRFListColumn &column, QPlainTextEdit &lines)
@@ -90,8 +96,7 @@ private:
     {
         lines.setTabChangesFocus(true);
         lines.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        connect(lines.document()->documentLayout(),
-                &QAbstractTextDocumentLayout::documentSizeChanged, this, [this] { fitHeight(); });
+        connect(&lines, &QPlainTextEdit::textChanged, this, &LinesField::fitHeight);
         fitHeight();
     }
 
@@ -100,9 +105,13 @@ private:
     {
         constexpr int fewest = 3;
         constexpr int most = 12;
-        const int lines = std::clamp(int(m_lines.document()->size().height()), fewest, most);
+        constexpr int slack = 2;
+        const int count = int(m_lines.document()->size().height());
         const int frame = 2 * (m_lines.frameWidth() + int(m_lines.document()->documentMargin()));
-        m_lines.setFixedHeight(lines * m_lines.fontMetrics().lineSpacing() + frame);
+        m_lines.setFixedHeight(std::clamp(count, fewest, most) * m_lines.fontMetrics().lineSpacing()
+                               + frame + slack);
+        m_lines.setVerticalScrollBarPolicy(count > most ? Qt::ScrollBarAsNeeded
+                                                        : Qt::ScrollBarAlwaysOff);
     }
 
     QPlainTextEdit &m_lines;
