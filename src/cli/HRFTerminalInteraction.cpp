@@ -17,7 +17,12 @@ namespace {
 using Buttons = std::vector<HRFAlertButton>;
 
 const QString quitLetter = u"q"_s;
-const QString forAllWord = u"all"_s;
+
+/// What is typed behind a letter to check the box of a question.
+QString suppressionWord(const HRFAlert &alert)
+{
+    return alert.suppressionTitle == u"Apply to All" ? u"all"_s : u"always"_s;
+}
 
 /// "ask" needs somebody who answers.
 HRFErrorAnswer effectiveAnswer(HRFErrorAnswer answer, const HRFConsole &console)
@@ -85,10 +90,10 @@ QString questionText(const HRFAlert &alert, const std::vector<Choice> &choices,
         titles += place < 0 ? marked + title : title.replace(place, 1, marked);
     }
     titles += u"[q]uit"_s;
-    const QString forAll = alert.suppressionTitle.isEmpty()
+    const QString suppression = alert.suppressionTitle.isEmpty()
         ? QString()
-        : u" (“%1 all” for all files)"_s.arg(letters.front());
-    return titles.join(u", "_s) + forAll + u"? "_s;
+        : u" (“%1 %2”: %3)"_s.arg(letters.front(), suppressionWord(alert), alert.suppressionTitle);
+    return titles.join(u", "_s) + suppression + u"? "_s;
 }
 
 /// What was typed, as an answer; nothing when it is none.
@@ -97,14 +102,14 @@ std::optional<HRFAlertAnswer> parseAnswer(const QString &typed, const HRFAlert &
                                           const QString &letters)
 {
     const QStringList words = typed.split(u' ', Qt::SkipEmptyParts);
-    const bool isForAll = words.size() == 2 && words[1] == forAllWord;
+    const bool isSuppressed = words.size() == 2 && words[1] == suppressionWord(alert);
     const qsizetype place = words[0].size() == 1 ? letters.indexOf(words[0]) : -1;
-    if (place < 0 || words.size() > (isForAll ? 2 : 1)
-        || (isForAll && alert.suppressionTitle.isEmpty()))
+    if (place < 0 || words.size() > (isSuppressed ? 2 : 1)
+        || (isSuppressed && alert.suppressionTitle.isEmpty()))
         return {};
     const Choice &choice = choices[std::size_t(place)];
     return HRFAlertAnswer{
-        .button = choice.button, .isSuppressed = isForAll, .isAlternate = choice.isAlternate};
+        .button = choice.button, .isSuppressed = isSuppressed, .isAlternate = choice.isAlternate};
 }
 
 /// The import ends with such an error when files were unreadable. They were named one by one.
