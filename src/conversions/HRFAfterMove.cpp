@@ -120,7 +120,8 @@ fs::path commonParent(const std::vector<std::shared_ptr<HRFMoveOperation>> &oper
     return common;
 }
 
-/// Where the folder for the user's Trash cannot be made, Qt takes the working folder for it.
+/// Where the folder for the user's Trash cannot be made, Qt takes the working folder for it. It
+/// cannot name items whose paths are not UTF-8, and might take others for them.
 bool moveToTrash(const HRFFileReference &item)
 {
     const QString dataFolder =
@@ -128,7 +129,7 @@ bool moveToTrash(const HRFFileReference &item)
     const QFileInfo trash(dataFolder + u"/Trash"_s);
     const bool hasTrash =
         QDir().mkpath(dataFolder) && (trash.isDir() || QFileInfo(dataFolder).isWritable());
-    return hasTrash && QFile::moveToTrash(item.displayPath());
+    return hasTrash && item.isValidUtf8() && QFile::moveToTrash(item.displayPath());
 }
 
 bool userWantsToRemove(const std::vector<HRFFileReference> &folders)
@@ -176,6 +177,8 @@ void HRFAfterMove::postProcessSuccessfulOperations() const
         return;
     std::vector<HRFFileReference> emptyFolders;
     for (const auto &[folder, destination] : sourceFoldersOf(succeeded())) {
+        if (m_progress->isCancelled())
+            return;
         if (!isSafeURL(folder))
             continue;
         if (m_context.moveNonAudioFiles && !destination.isNull() && !mayHoldAudioFiles(folder))
@@ -183,7 +186,7 @@ void HRFAfterMove::postProcessSuccessfulOperations() const
         if (m_context.removeEmptyDirectories && isEmptyFolder(folder))
             emptyFolders.push_back(folder);
     }
-    if (!emptyFolders.empty())
+    if (!emptyFolders.empty() && !m_progress->isCancelled())
         HRFMainThread::run([&] { HRFRemoveEmptyDirectories(emptyFolders); },
                            HRFMainThread::Wait::Yes);
 }
@@ -196,6 +199,8 @@ void HRFAfterMove::moveAccompanyingFiles(const HRFFileReference &from,
     m_progress->setLocalizedAdditionalDescription(tr("Moving accompanying files…"));
     HRFFileManager manager;
     for (const fs::path &item : itemsIn(from)) {
+        if (m_progress->isCancelled())
+            return;
         const auto moved =
             manager.moveItemAtURL(referenceOf(item), referenceOf(pathOf(to) / item.filename()));
         if (!moved)
@@ -245,7 +250,10 @@ void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders)
     for (const HRFFileReference &folder : folders) {
         // Something may have come into it while the question was on the screen.
         if (isEmptyFolder(folder) && !moveToTrash(folder))
-            qWarning("The empty folder “%s” could not be moved to the Trash",
-                     folder.nativePath().constData());
+            HRFUserInteraction::presentErrorLater(
+                {.domain = QString::fromLatin1(HRFFileErrorDomain),
+                 .code = HRFFileErrorCode::writeUnknown,
+                 .description = tr("The empty folder “%1” could not be moved to the Trash")
+                                    .arg(folder.displayPath())});
     }
 }
