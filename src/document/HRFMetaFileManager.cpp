@@ -2,6 +2,7 @@
 
 #include "document/HRFPlaylist.h"
 #include "kit/HRFAssert.h"
+#include "kit/HRFFileReferenceTable.h"
 #include "operations/HRFProgressWindowController.h"
 #include "operations/HRFTagWriteOperation.h"
 #include "store/HRFDataFolder.h"
@@ -70,9 +71,12 @@ void HRFMetaFileManager::contextDidChange(const HRFContextChanges &changes)
         const auto *info = dynamic_cast<HRFSystemFile *>(change.object);
         if (!info || !change.affects(u"fileName"_s))
             continue;
-        const auto file = info->parentMetaFile()->url();
-        if (file && file->displayName() != info->fileName())
-            renamed.push_back({info->parentMetaFile(), *file});
+        HRFMetaFile *record = info->parentMetaFile();
+        const auto file = record->url();
+        const auto known =
+            file ? file : HRFFileReferenceTable::lastKnownFileForURL(record->fileURL());
+        if (known && known->displayName() != info->fileName())
+            renamed.push_back({record, file, known->displayName()});
     }
     updateTags(tags);
     if (!m_isTakingBackRename)
@@ -106,10 +110,11 @@ void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
 {
     QHash<HRFObjectID, QString> names;
     std::optional<HRFError> failure;
-    for (const auto &[record, file] : renamings) {
-        QString name = file.displayName();
+    for (const auto &[record, file, oldName] : renamings) {
+        QString name = oldName;
         if (!failure) {
-            const auto moved = rename(file, record->fileInfo().fileName());
+            const auto moved = file ? rename(*file, record->fileInfo().fileName())
+                                    : std::unexpected(HRFFileNotFoundError(oldName));
             if (moved)
                 name = moved->displayName();
             else

@@ -91,11 +91,12 @@ private:
     static void showInvalidFilesError(const std::vector<HRFFileReference> &files);
     void contextDidChange(const HRFContextChanges &changes);
     void updateTags(const std::vector<HRFObjectChange> &changes);
-    /// A record, and where its file is, which has another name.
+    /// A record, and its file, which has another name; nothing when the file has vanished.
     struct Renaming
     {
         HRFMetaFile *record;
-        HRFFileReference file;
+        std::optional<HRFFileReference> file;
+        QString oldName;
     };
     void renameFiles(const std::vector<Renaming> &renamings);
     void setNames(const QHash<HRFObjectID, QString> &names);
