@@ -12,6 +12,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 using Wait = HRFMainThread::Wait;
 
 namespace {
@@ -26,6 +28,12 @@ HRFError selectedFailures(const QString &description)
     return HRFConversionError(
         HRFConversionErrorCode::someFilesFailed, description,
         tr("Failures have been selected. Try editing the Pattern, then proceed again."));
+}
+
+bool isEmptyRendering(const HRFError &refusal)
+{
+    return refusal.domain == QLatin1StringView(HRFLirraErrorDomain)
+        && refusal.code == HRFConversionErrorCode::someFilesFailed;
 }
 
 std::vector<HRFObjectID> refusedFiles(HRFFileOperationCC::PlannedFiles files)
@@ -55,10 +63,14 @@ HRFConversionOutcome HRFFileOperationCC::renameFilesWithPattern(const HRFPattern
         plan.files.pop_back(); // that a question was cancelled at it is no failure
     }
     HRFConversionOutcome outcome{.hasChangedFiles = renamePlannedFiles(plan.files, progress)};
-    if (const auto failures = refusedFiles(plan.files); !failures.empty()) {
-        selectFiles(failures);
-        outcome.error = selectedFailures(
-            tr("Some files failed renaming because their new filenames were null"));
+    const auto failed = std::ranges::find_if(
+        plan.files, [](const HRFPlannedFile &planned) { return bool(planned.refusal); });
+    if (failed != plan.files.end()) {
+        selectFiles(refusedFiles(plan.files));
+        outcome.error = isEmptyRendering(*failed->refusal)
+            ? selectedFailures(
+                  tr("Some files failed renaming because their new filenames were null"))
+            : *failed->refusal;
     }
     return outcome;
 }
@@ -112,6 +124,7 @@ HRFFileOperationCC::movePlannedFiles(PlannedFiles files, const HRFConversionCont
         const auto operation = operationFor(planned);
         if (!operation)
             continue;
+        fileManager->protectItem(planned.source);
         operation->setFileManager(fileManager);
         operation->setCopyOperation(context.fileOperationCopy);
         operation->setProgress(progress);

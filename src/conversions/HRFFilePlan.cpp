@@ -14,9 +14,12 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -73,6 +76,18 @@ QByteArray joined(const QByteArray &folder, const QByteArray &rest)
     return folder.endsWith('/') ? folder + rest : folder + '/' + rest;
 }
 
+/// Absolute and without "." and "..", whatever the working folder is later. Only the file system
+/// knows what is above a link.
+HRFFileReference standardised(const HRFFileReference &folder)
+{
+    std::error_code failure;
+    const fs::path path = fs::absolute(folder.nativePath().toStdString(), failure);
+    const bool climbs = std::ranges::find(path, fs::path("..")) != path.end();
+    const fs::path place = climbs ? fs::weakly_canonical(path, failure) : path.lexically_normal();
+    return failure ? folder
+                   : HRFFileReference::fromNativePath(QByteArray::fromStdString(place.native()));
+}
+
 /// Settles one file after the other.
 class Planner
 {
@@ -80,7 +95,7 @@ public:
     Planner(Work work, const std::optional<HRFFileReference> &baseFolder,
             const HRFPlanAnswers &answers)
         : m_work(work)
-        , m_baseFolder(baseFolder)
+        , m_baseFolder(baseFolder.transform(&standardised))
         , m_answers(answers)
         , m_dotNames(answers.dotNames)
         , m_places(work == Work::Copy ? HRFTransfer::Kind::Copy : HRFTransfer::Kind::Move)
@@ -89,7 +104,12 @@ public:
 
     HRFFilePlan plan(std::vector<Draft> drafts)
     {
+        for (const Draft &draft : drafts)
+            if (!draft.file.source.isNull())
+                m_places.add(draft.file.source);
         for (Draft &draft : drafts) {
+            if (m_answers.hasToEnd && m_answers.hasToEnd())
+                break;
             m_isLast = &draft == &drafts.back();
             if (auto settled = settle(draft); !settled)
                 draft.file.refusal = settled.error();
@@ -114,7 +134,7 @@ private:
     HRFError nothingRendered(const Draft &draft) const;
 
     const Work m_work;
-    const std::optional<HRFFileReference> &m_baseFolder;
+    const std::optional<HRFFileReference> m_baseFolder;
     const HRFPlanAnswers &m_answers;
     int m_dotNames;
     bool m_isLast = false;
@@ -129,7 +149,7 @@ HRFResult<void> Planner::settle(Draft &draft)
         return std::unexpected(nothingRendered(draft));
     if (const auto settled = settleDots(draft); !settled)
         return settled;
-    if (file.source.isNull() || m_places.isReplaced(file.source))
+    if (file.source.isNull())
         return std::unexpected(HRFFileNotFoundError(draft.name));
     const auto destination = destinationOf(draft);
     if (!destination)
@@ -142,13 +162,13 @@ HRFResult<void> Planner::settleDots(Draft &draft)
 {
     if (!HRFDotPrefixCheck::isNeededFor(draft.text))
         return {};
-    draft.file.warnings.push_back(HRFDotPrefixCheck::error());
     if (!HRFDotPrefixCheck::shouldProceed(draft.text, m_dotNames, m_answers.title)) {
         m_plan.isCancelled = true;
         if (m_work != Work::Rename)
             m_plan.files.clear(); // then nothing is moved at all
         return std::unexpected(HRFDotPrefixCheck::error());
     }
+    draft.file.warnings.push_back(HRFDotPrefixCheck::error());
     // Nothing may be left of a name of dots.
     return draft.text.isEmpty() ? std::unexpected(nothingRendered(draft)) : HRFResult<void>();
 }
@@ -175,7 +195,9 @@ HRFResult<HRFFileReference> Planner::destinationOf(const Draft &draft) const
 HRFResult<void> Planner::settlePlace(HRFPlannedFile &file)
 {
     // Moving does not change the case of letters.
-    if (m_work == Work::Move && differInCaseAtMost(file.source, file.destination))
+    if (m_work == Work::Move
+        && (differInCaseAtMost(file.source, file.destination)
+            || m_places.areSameButForCase(file.source, file.destination)))
         file.destination = file.source;
     if (const int failure = m_places.obstacleTo(file.destination, file.source); failure == EEXIST) {
         const auto settled = getOver(file, HRFErrorForTransfer(transferOf(file), EEXIST));
@@ -184,25 +206,27 @@ HRFResult<void> Planner::settlePlace(HRFPlannedFile &file)
     } else if (failure != 0) {
         return std::unexpected(HRFErrorForTransfer(transferOf(file), failure));
     }
-    m_places.take(file.destination, file.source, file.replaces);
+    m_places.take(file.destination, file.source);
     return {};
 }
 
 HRFResult<void> Planner::getOver(HRFPlannedFile &file, const HRFError &conflict)
 {
-    file.warnings.push_back(conflict);
-    if (!m_answers.existingItem)
+    if (!m_answers.existingItem) {
+        file.warnings.push_back(conflict);
         return {};
+    }
     switch (m_answers.existingItem(file.destination, m_isLast)) {
     case HRFFileExistsRecovery::KeepBoth: {
+        file.warnings.push_back(conflict);
         const auto [place, failure] = m_places.numberedPlaceFor(file.destination, file.source);
         file.destination = place;
         return failure == 0 ? HRFResult<void>()
                             : std::unexpected(HRFErrorForTransfer(transferOf(file), failure));
     }
     case HRFFileExistsRecovery::Replace:
-        file.replaces = true;
-        return {};
+        file.replaces = m_places.isReplaceable(file.destination);
+        return file.replaces ? HRFResult<void>() : std::unexpected(conflict);
     case HRFFileExistsRecovery::Stop:
         m_plan.isCancelled = true;
         return std::unexpected(conflict);

@@ -22,9 +22,9 @@ struct HRFPlannedFile
     /// Why nothing is to be done with the file.
     std::optional<HRFError> refusal{};
     /// What the user may want to know beforehand: missing values, a leading dot, what is in the
-    /// way.
+    /// way and stays.
     std::vector<HRFError> warnings{};
-    /// The file takes the place of what is in its way.
+    /// The file takes the place of what is in its way, which is no file of the batch.
     bool replaces = false;
 };
 
@@ -47,6 +47,8 @@ struct HRFPlanAnswers
     /// whoever carries the plan out.
     std::function<HRFFileExistsRecovery(const HRFFileReference &destination, bool isLast)>
         existingItem{};
+    /// Ends the plan with the files so far. It may be left out.
+    std::function<bool()> hasToEnd{};
 };
 
 // Nothing is changed by planning. Files are taken to be worked on one after the other, so that an

@@ -127,7 +127,23 @@ HRFResult<HRFFileReference> HRFFileManager::keepBoth(const HRFTransfer &transfer
 
 HRFResult<HRFFileReference> HRFFileManager::replace(const HRFTransfer &transfer)
 {
+    if (isProtected(transfer.destination))
+        return std::unexpected(HRFErrorForTransfer(transfer, EEXIST));
     return attempt(transfer, true);
+}
+
+void HRFFileManager::protectItem(const HRFFileReference &item)
+{
+    struct stat status{};
+    if (::lstat(item.nativePath().constData(), &status) == 0)
+        m_protectedItems.emplace(status.st_dev, status.st_ino);
+}
+
+bool HRFFileManager::isProtected(const HRFFileReference &item) const
+{
+    struct stat status{};
+    return ::lstat(item.nativePath().constData(), &status) == 0
+        && m_protectedItems.contains({status.st_dev, status.st_ino});
 }
 
 int HRFFileManager::fix(int failure, const HRFTransfer &transfer) const

@@ -3,6 +3,9 @@
 #include "operations/HRFTransfer.h"
 
 #include <optional>
+#include <set>
+#include <sys/types.h>
+#include <utility>
 
 /// What to do about an item that is in the way.
 enum class HRFFileExistsRecovery {
@@ -32,6 +35,9 @@ public:
     /// The answer to all questions about items that are in the way; the user is not asked then.
     void setAppliedToAllRecovery(HRFFileExistsRecovery answer) { m_appliedToAllRecovery = answer; }
 
+    /// Lets no other item take the place of this one, whatever the answers are.
+    void protectItem(const HRFFileReference &item);
+
     /// Nothing is overwritten unless fileExistsRecovery says so.
     [[nodiscard]] HRFResult<HRFFileReference> moveItemAtURL(const HRFFileReference &source,
                                                             const HRFFileReference &destination);
@@ -57,6 +63,7 @@ private:
     HRFResult<HRFFileReference> attempt(const HRFTransfer &transfer, bool replaces);
     HRFResult<HRFFileReference> keepBoth(const HRFTransfer &transfer);
     HRFResult<HRFFileReference> replace(const HRFTransfer &transfer);
+    bool isProtected(const HRFFileReference &item) const;
     HRFFileExistsRecovery ask(const HRFFileReference &destination, bool showSuppression);
 
     // 0 when the transfer may be tried again, else the errno to report:
@@ -70,4 +77,5 @@ private:
     bool m_createMissingDirectories = false;
     HRFFileExistsRecovery m_fileExistsRecovery = HRFFileExistsRecovery::Stop;
     std::optional<HRFFileExistsRecovery> m_appliedToAllRecovery; ///< for the main thread
+    std::set<std::pair<dev_t, ino_t>> m_protectedItems;
 };

@@ -82,6 +82,7 @@ void HRFMoveOperation::finish(const HRFResult<HRFFileReference> &result)
     if (!m_isCopyOperation)
         HRFFileReferenceTable::fileDidBecome(fileKey(), *result);
     setDstURL(*result);
+    m_fileManager->protectItem(*result);
     setSucceeded(true);
     if (const std::shared_ptr<HRFProgress> batch = progress())
         batch->addCompleted();

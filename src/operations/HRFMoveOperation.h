@@ -7,8 +7,8 @@
 class HRFMoveOperation : public HRFFileOperation
 {
 public:
-    /// That of the batch, so that an answer for all reaches every file. To be set before the
-    /// operation is in a queue (assertion "fileManager").
+    /// That of the batch, so that an answer for all reaches every file, and none replaces one that
+    /// was moved before. To be set before the operation is in a queue (assertion "fileManager").
     void setFileManager(const std::shared_ptr<HRFFileManager> &manager) { m_fileManager = manager; }
     /// To be set before the operation is in a queue.
     bool isCopyOperation() const { return m_isCopyOperation; }
