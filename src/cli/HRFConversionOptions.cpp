@@ -28,10 +28,10 @@ constexpr SwitchRow switchRows[] = {
 };
 
 constexpr SwitchRow movingRows[] = {
-    {"--copy", "lirra.formatter.path.copyFiles"_L1, "Copy the files"},
-    {"--with-others", "lirra.formatter.path.moveAllFiles"_L1,
+    {"--copy,!--no-copy", "lirra.formatter.path.copyFiles"_L1, "Copy the files"},
+    {"--with-others,!--no-with-others", "lirra.formatter.path.moveAllFiles"_L1,
      "Move what else is in a folder, too, when it has no audio files any more"},
-    {"--remove-empty", "lirra.formatter.path.removeEmptyDirectories"_L1,
+    {"--remove-empty,!--no-remove-empty", "lirra.formatter.path.removeEmptyDirectories"_L1,
      "Put folders that have become empty into the Trash"},
 };
 

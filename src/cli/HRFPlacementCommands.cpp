@@ -2,13 +2,10 @@
 
 #include "cli/HRFListRun.h"
 #include "cli/HRFPlacementReport.h"
-#include "kit/HRFBackground.h"
 #include "kit/HRFUserDefaults.h"
 #include "operations/HRFMoveOperation.h"
 #include "operations/HRFProgressWindowController.h"
 #include "store/HRFMetaFile.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <map>
@@ -32,6 +29,7 @@ struct Placement
     /// Nothing where the user is asked.
     std::optional<HRFFileExistsRecovery> recovery() const;
     HRFPlanAnswers answers() const;
+    bool needsAnswer(const HRFPlannedFile &planned) const;
     /// Tells of the files that are refused, and leaves them out.
     HRFFilePlan withoutRefused(HRFPlaylist &list, HRFFilePlan plan, std::size_t fileCount) const;
     void preview(const std::function<HRFFilePlan(const Records &)> &makePlan) const;
@@ -51,17 +49,30 @@ std::optional<HRFFileExistsRecovery> Placement::recovery() const
     return asks() ? std::nullopt : std::optional(HRFFileExistsRecovery::Stop);
 }
 
-/// A dry run asks nothing: what it would ask about, it tells.
+/// A dry run asks nothing: what would be asked about, it tells.
 HRFPlanAnswers Placement::answers() const
 {
-    HRFPlanAnswers answers{.dotNames = options.conversion.dotNames};
-    if (answers.dotNames == HRFDotPrefixCheck::noAnswer && !asks())
-        answers.dotNames = HRFDotPrefixCheck::cancel;
-    else if (answers.dotNames == HRFDotPrefixCheck::noAnswer && options.isDryRun)
+    HRFPlanAnswers answers{.dotNames = options.conversion.dotNames,
+                           .hasToEnd = [this] { return run.hasToEnd(); }};
+    if (answers.dotNames == HRFDotPrefixCheck::noAnswer && options.isDryRun)
         answers.dotNames = HRFDotPrefixCheck::proceed;
-    if (const auto chosen = recovery())
+    else if (answers.dotNames == HRFDotPrefixCheck::noAnswer && !asks())
+        answers.dotNames = HRFDotPrefixCheck::cancel;
+    const bool isOpen = options.isDryRun && options.conversion.onConflict == HRFConflictAnswer::Ask;
+    if (const auto chosen = isOpen ? std::nullopt : recovery())
         answers.existingItem = [chosen](const HRFFileReference &, bool) { return *chosen; };
     return answers;
+}
+
+/// Whether the user would be asked about a file, or the run would stop at it.
+bool Placement::needsAnswer(const HRFPlannedFile &planned) const
+{
+    return std::ranges::any_of(planned.warnings, [&](const HRFError &warning) {
+        return HRFIsFileExistsError(warning)
+            ? options.conversion.onConflict == HRFConflictAnswer::Ask
+            : warning.code == HRFDotPrefixCheck::errorCode
+                && options.conversion.dotNames == HRFDotPrefixCheck::noAnswer;
+    });
 }
 
 HRFFilePlan Placement::withoutRefused(HRFPlaylist &list, HRFFilePlan plan,
@@ -70,12 +81,11 @@ HRFFilePlan Placement::withoutRefused(HRFPlaylist &list, HRFFilePlan plan,
     const std::size_t plannedCount = plan.files.size();
     for (const HRFPlannedFile &planned : plan.files)
         if (planned.refusal)
-            report.tellOfRefused(*list.fileWithID(planned.objectID), *planned.refusal);
+            report.tellOfRefused(*list.fileWithID(planned.objectID), planned, options.isDryRun);
     std::erase_if(plan.files, [](const HRFPlannedFile &planned) { return bool(planned.refusal); });
-    if (plan.isCancelled) {
-        run.leaveOut(fileCount - plannedCount);
+    run.leaveOut(fileCount - plannedCount);
+    if (plan.isCancelled)
         run.console().report(u"No further files are changed"_s);
-    }
     return plan;
 }
 
@@ -83,59 +93,34 @@ void Placement::preview(const std::function<HRFFilePlan(const Records &)> &makeP
 {
     run.changeFiles([&](HRFPlaylist &list, const Records &records) {
         const HRFFilePlan plan = withoutRefused(list, makePlan(records), records.size());
-        for (const HRFPlannedFile &planned : plan.files)
+        for (const HRFPlannedFile &planned : plan.files) {
             report.tellOfPlanned(*list.fileWithID(planned.objectID), planned);
+            run.leaveOut(!asks() && needsAnswer(planned) ? 1 : 0);
+        }
         return false;
     });
 }
 
-/// Files that follow each other and get names in the same way; not too many, so that a run can be
-/// interrupted.
-PlannedFiles nextPart(PlannedFiles files, bool oneByOne)
-{
-    constexpr std::size_t most = 500;
-    const auto isOther = [&](const HRFPlannedFile &planned) {
-        return planned.replaces != files.front().replaces;
-    };
-    const auto count = std::size_t(std::ranges::find_if(files, isOther) - files.begin());
-    return files.first(oneByOne ? 1 : std::min(count, most));
-}
-
-/// Answers how many files, from the first on, have their new names. The list tells why the next one
-/// has not.
-std::size_t renamePart(const Placement &placement, HRFPlaylist &list, PlannedFiles files)
-{
-    list.fileManager().fileManager().setFileExistsRecovery(
-        files.front().replaces ? HRFFileExistsRecovery::Replace : HRFFileExistsRecovery::KeepBoth);
-    HRFProgress progress;
-    list.fileOperationCC().renamePlannedFiles(files, progress);
-    list.managedObjectContext().processPendingChanges();
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        const HRFMetaFile &record = *list.fileWithID(files[i].objectID);
-        if (record.url() != files[i].destination)
-            return i;
-        placement.report.tellOfDone(record, files[i].source, files[i].destination);
-    }
-    return files.size();
-}
-
-/// The list leaves the other files of an edit as they are when one cannot be renamed, which is
-/// right for a window.
+/// Nothing takes a place that is not as free as it was when that was planned. The files are renamed
+/// by themselves, not by edits of their records: an edit ends at the first that cannot be renamed.
 void renameFiles(const Placement &placement, HRFPlaylist &list, PlannedFiles files)
 {
-    bool oneByOne = false;
-    while (!files.empty() && !placement.run.hasToEnd()) {
-        const PlannedFiles part = nextPart(files, oneByOne);
-        const std::size_t done = renamePart(placement, list, part);
-        const bool hasFailed = done < part.size();
-        if (hasFailed)
-            placement.run.leaveOut(1);
-        oneByOne = oneByOne || hasFailed;
-        files = files.subspan(hasFailed ? done + 1 : done);
+    HRFFileManager manager;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (placement.run.hasToEnd())
+            return placement.run.leaveOut(files.size() - i);
+        const HRFPlannedFile &planned = files[i];
+        const HRFMetaFile &record = *list.fileWithID(planned.objectID);
+        manager.setFileExistsRecovery(planned.replaces ? HRFFileExistsRecovery::Replace
+                                                       : HRFFileExistsRecovery::Stop);
+        const auto renamed = planned.source == planned.destination
+            ? planned.source
+            : manager.moveItemAtURL(planned.source, planned.destination);
+        if (renamed)
+            placement.report.tellOfDone(record, planned.source, *renamed);
+        else
+            placement.report.tellOfFailed(record, renamed.error());
     }
-    placement.run.leaveOut(files.size());
-    HRFBackground::waitUntilIdle();
-    QCoreApplication::processEvents(); // failures are told of then
 }
 
 void rename(const Placement &placement)
@@ -192,14 +177,20 @@ void moveFiles(const Placement &placement)
                                      HRFPlanMoves(records, placement.pattern,
                                                   folderOf(placement.options.conversion), answers),
                                      records.size());
+        if (placement.run.hasToEnd()) {
+            placement.run.leaveOut(plan.files.size());
+            return false;
+        }
         progress->setTotalUnitCount(qlonglong(plan.files.size()));
         display.showAsSheet();
         const auto tell = [&] {
             display.dismiss();
             for (const auto &move : moves) {
+                const HRFMetaFile &record = *list.fileWithID(move->objectID());
                 if (move->succeeded())
-                    placement.report.tellOfDone(*list.fileWithID(move->objectID()), move->srcURL(),
-                                                move->dstURL());
+                    placement.report.tellOfDone(record, move->srcURL(), move->dstURL());
+                else if (const auto error = move->error())
+                    placement.report.printFailure(record, *error);
             }
         };
         moves = list.fileOperationCC().movePlannedFiles(plan.files, placement.pattern.context(),
@@ -263,8 +254,10 @@ int HRFMoveFiles(const HRFCommandOptions &options)
         return refuse(u"--base: The folder has no name"_s);
     if (!conversion.targetFolder && conversion.pattern.empty())
         return refuse(u"move: --pattern or --to is needed"_s);
-    // Who cannot be asked has said it on the command line.
-    if (!HRFConsole(true).isInteractive())
+    // Who cannot be asked may have said it on the command line.
+    const auto removes = options.settings.find(u"lirra.formatter.path.removeEmptyDirectories"_s);
+    if (removes != options.settings.end() && removes->second.toBool()
+        && !HRFConsole(true).isInteractive())
         HRFUserDefaults::standard().setOverride(true, u"lirra.suppressed.removeEmptyDirectories"_s);
     const HRFPatternElements here{u"."_s};
     return place(options, movingContext(options),

@@ -15,12 +15,17 @@ public:
     /// Where a file is now.
     void tellOfDone(const HRFMetaFile &record, const HRFFileReference &source,
                     const HRFFileReference &destination) const;
+    /// Why nothing is done with a file, and, if that is wanted, what else may be of interest.
+    void tellOfRefused(const HRFMetaFile &record, const HRFPlannedFile &planned,
+                       bool tellsWarnings) const;
     /// Why a file stays where it is.
-    void tellOfRefused(const HRFMetaFile &record, const HRFError &refusal) const;
+    void tellOfFailed(const HRFMetaFile &record, const HRFError &error) const;
+    /// The same for a file that was named on standard error before.
+    void printFailure(const HRFMetaFile &record, const HRFError &error) const;
 
 private:
-    void print(const HRFMetaFile &record, const HRFFileReference &source,
-               const HRFFileReference &destination, const std::vector<HRFError> &warnings) const;
+    void tellWarnings(const HRFMetaFile &record, const HRFPlannedFile &planned) const;
+    void print(const HRFMetaFile &record, const HRFPlannedFile &planned) const;
 
     HRFListRun &m_run;
     const bool m_printsJSON;
