@@ -36,19 +36,21 @@ class PlacementTest(ProgramTest):
 
     def place(self, *arguments):
         """The lines of a run without the folder, exit status and standard error. The dry runs must
-        say the same before, and change nothing."""
+        say the same before, or more when the run stops, and change nothing."""
         self.make()
         before = self.contents()
         dry = self.run_program("--dry-run", *arguments, self.root)
         dry_json = self.run_program("--dry-run", *arguments, "--json", self.root)
         self.assertEqual(self.contents(), before)
         real = self.run_program(*arguments, self.root)
-        self.assertEqual((dry.stdout, dry.returncode), (real.stdout, real.returncode))
+        stops = STOP in real.stderr
+        self.assertEqual(dry.returncode, real.returncode)
+        self.assertEqual(dry.stdout[:len(real.stdout)] if stops else dry.stdout, real.stdout)
         told = [json.loads(line) for line in dry_json.stdout.splitlines()]
         self.assertEqual([f"{file['path']} -> {file['newPath']}"
                           for file in told if "newPath" in file], dry.stdout.splitlines())
         refused = [file["path"] for file in told if "error" in file]
-        for text in (dry.stderr, real.stderr):
+        for text in (dry.stderr,) if stops else (dry.stderr, real.stderr):
             self.assertLessEqual(set(refused), {line.split(": ")[1] for line in text.splitlines()})
         after = self.contents()
         self.assertEqual(sorted(after.values()), sorted(before.values()))
@@ -77,16 +79,66 @@ class PlacementTest(ProgramTest):
                 for reason, line in zip(reasons, error.splitlines(), strict=True):
                     self.assertIn(reason, line)
 
-    def test_replaced_files_are_gone(self):
-        self.titles = {"1.mp3": "2", "2.mp3": "3"}
+    def test_files_of_a_run_do_not_replace_each_other(self):
+        out = f"--to={self.root}/out"
+        for titles, arguments, expected in (
+                ({"1.mp3": "2", "2.mp3": "3"}, ["rename", "--pattern=%title%"],
+                 ["2.mp3 -> 3.mp3"]),
+                ({"a/1.mp3": "", "b/1.mp3": ""}, ["move", out], ["a/1.mp3 -> out/1.mp3"]),
+                ({"a/1.mp3": "", "b/1.mp3": ""}, ["move", "--copy", out],
+                 ["a/1.mp3 -> out/1.mp3"]),
+                # A folder is needed where a file is by then.
+                ({"a/1.mp3": ".", "b/2.mp3": "1.mp3"},
+                 ["move", "--pattern=%title%/.", out.replace("to", "base", 1)],
+                 ["a/1.mp3 -> out/1.mp3"])):
+            with self.subTest(arguments):
+                self.titles = titles
+                self.make()
+                before = self.contents()
+                arguments = ["--on-conflict=replace", *arguments, "--json", self.root]
+                dry, real = (self.run_program(*dry, *arguments) for dry in (["--dry-run"], []))
+                told = [[json.loads(line) for line in run.stdout.splitlines()]
+                        for run in (dry, real)]
+                for files in told:
+                    self.assertEqual([f"{file['path']} -> {file['newPath']}".replace(
+                        f"{self.root}/", "") for file in files if "newPath" in file], expected)
+                    self.assertEqual(sum("error" in file for file in files), 1)
+                self.assertEqual((dry.returncode, real.returncode), (1, 1))
+                self.assertLessEqual(set(before.values()), set(self.contents().values()))
+
+    def test_other_files_are_replaced(self):
+        self.titles = {"1.mp3": "2", "2.mp3": "3", "4.mp3": "5"}
         self.make()
-        dry = self.run_program("--dry-run", "--on-conflict=replace", "rename", "--pattern=%title%",
-                               self.root)
-        real = self.run_program("--on-conflict=replace", "rename", "--pattern=%title%", self.root)
+        (self.root / "5.mp3").mkdir()
+        arguments = ["--on-conflict=replace", "rename", "--pattern=%title%", self.root / "1.mp3",
+                     self.root / "4.mp3"]
+        dry = self.run_program("--dry-run", *arguments)
+        real = self.run_program(*arguments)
         self.assertEqual((dry.stdout, dry.returncode), (real.stdout, 1))
-        self.assertIn("could not be found", real.stderr)
+        self.assertIn("“2.mp3” is replaced", dry.stderr)
+        self.assertEqual(real.stderr.count(EXISTS), 1)
         self.assertEqual(self.contents()["2.mp3"][0], song("2"))
-        self.assertEqual(len(self.contents()), 1)
+        self.assertEqual(set(self.contents()), {"2.mp3", "4.mp3"})
+
+    def test_folders_have_several_spellings(self):
+        self.titles = {"a/1.mp3": "x", "a/2.mp3": "x"}
+        for arguments, files, expected, status in (
+                (["rename", "--pattern=%title%"], ["./a/1.mp3", "a/2.mp3"], "./a/1.mp3", 1),
+                (["rename", "--pattern=%title%"], ["link/1.mp3", "a/2.mp3"], "link/1.mp3", 1),
+                (["move", "--to=a"], ["a"], "a/1.mp3 -> a/1.mp3\na/2.mp3 -> a/2.mp3", 0),
+                (["move", "--to=A"], ["./a/2.mp3"], "./a/2.mp3 -> ./a/2.mp3", 0),
+                (["move", "--to=link"], ["a/1.mp3"], "a/1.mp3 -> a/1.mp3", 0)):
+            with self.subTest(files):
+                self.make()
+                (self.root / "link").symlink_to("a")
+                runs = [self.run_command(["env", "-C", self.root, PROGRAM, "--on-conflict=skip",
+                                          *dry, *arguments, *files])
+                        for dry in (["--dry-run"], [])]
+                self.assertEqual(runs[0].stdout, runs[1].stdout)
+                self.assertEqual([run.returncode for run in runs], [status, status])
+                self.assertTrue(runs[1].stdout.startswith(expected), runs[1].stdout)
+                self.assertEqual(runs[1].stdout.count("\n"), 1 + expected.count("\n"))
+                self.assertEqual(runs[1].stderr.count(EXISTS), status)
 
     def test_moves(self):
         self.titles = {"a/1.mp3": "One", "b/2.mp3": "Two", "b/1.mp3": "One"}

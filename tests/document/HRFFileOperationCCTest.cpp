@@ -278,6 +278,39 @@ TEST_F(HRFFileOperationCCTest, AsksAboutConflictsAndLeavesOutWhatVanished)
     EXPECT_EQ(list.selectedFiles().front()->fileInfo().fileName(), u"gone.mp3"_s);
 }
 
+TEST_F(HRFFileOperationCCTest, TellsOfAFileThatVanishesBeforeItsRename)
+{
+    makeSong(u"a/1.mp3"_s, {{u"title"_s, u"one"_s}});
+    import();
+    const HRFFilePlan plan =
+        HRFPlanRenames(list.arrangedFiles(), pattern(u"%title%"_s, context), {});
+    QFile::remove(music(u"a/1.mp3"_s));
+    makeFile(u"a/1.mp3"_s); // another one
+    list.fileOperationCC().renamePlannedFiles(plan.files, *progress);
+    list.managedObjectContext().processPendingChanges();
+    waitUntil([&] { return !user.presentedErrors.empty(); });
+    HRFBackground::waitUntilIdle();
+    EXPECT_EQ(user.presentedErrors.front().code, HRFFileErrorCode::noSuchFile);
+    EXPECT_EQ(recordNames(), QStringList(u"1.mp3"_s));
+    EXPECT_EQ(files(), QStringList(u"a/1.mp3"_s));
+}
+
+TEST_F(HRFFileOperationCCTest, NothingFollowsACancelledMove)
+{
+    makeSong(u"a/1.mp3"_s);
+    makeSong(u"b/2.mp3"_s);
+    makeFile(u"a/cover.jpg"_s);
+    import();
+    makeFile(u"to/2.mp3"_s);
+    context.moveNonAudioFiles = true;
+    context.removeEmptyDirectories = true;
+    user.answers = {{u"Stop"_s}};
+    EXPECT_TRUE(move(u"."_s, music(u"to"_s)));
+    EXPECT_TRUE(progress->isCancelled());
+    EXPECT_EQ(files(), (QStringList{u"a/cover.jpg"_s, u"b/2.mp3"_s, u"to/1.mp3"_s, u"to/2.mp3"_s}));
+    EXPECT_THAT(user.alerts, SizeIs(1));
+}
+
 /// By folder: does it keep its cover, and is it removed?
 TEST_F(HRFFileOperationCCTest, CarriesAlongWhatBelongsToTheFiles)
 {
