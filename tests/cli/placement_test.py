@@ -168,25 +168,50 @@ class PlacementTest(ProgramTest):
             self.assertEqual(set(self.contents()), expected)
         self.assertTrue((self.home / ".local/share/Trash/files/a").is_dir())
 
-    def test_questions_on_a_terminal(self):
-        self.titles = {f"{name}/x.mp3": "" for name in "abcd"}
-        self.make()
+    def answer(self, arguments, *answers):
+        """Exit status, standard output and the rest of a run that asks. What is no text is called
+        before the next answer."""
         user, terminal = pty.openpty()
-        with subprocess.Popen([PROGRAM, "move", f"--to={self.root}/out", self.root],
-                              env=self.environment(), stdin=terminal, stdout=subprocess.PIPE,
-                              stderr=terminal) as program:
+        with subprocess.Popen([PROGRAM, *arguments], env=self.environment(), stdin=terminal,
+                              stdout=subprocess.PIPE, stderr=terminal) as program:
             os.close(terminal)
             shown = b""
-            for answer in (b"k\n", b"i all\n"):
+            for answer in answers:
                 while not shown.endswith(b"? "):
                     shown += os.read(user, 1000)
+                if callable(answer):
+                    answer()
+                    continue
                 os.write(user, answer)
                 shown = b""
             output = program.stdout.read().decode()
+            error = os.read(user, 10000).decode()
         os.close(user)
-        self.assertEqual((program.returncode, output.count(" -> ")), (1, 2))
+        return program.returncode, output, error
+
+    def test_questions_on_a_terminal(self):
+        self.titles = {f"{name}/x.mp3": "" for name in "abcd"}
+        self.make()
+        status, output, _ = self.answer(["move", f"--to={self.root}/out", self.root], b"k\n",
+                                        b"i all\n")
+        self.assertEqual((status, output.count(" -> ")), (1, 2))
         self.assertEqual(set(self.contents()),
                          {"out/x.mp3", "out/x 2.mp3", "c/x.mp3", "d/x.mp3"})
+
+    def test_places_may_be_taken_while_a_question_is_asked(self):
+        self.titles = {"1.mp3": "One", "2.mp3": "Two", "3.mp3": "Three", "Two.mp3": "Two"}
+        self.make()
+
+        def interfere():
+            self.file(self.root / "One.mp3", b"other")
+            (self.root / "3.mp3").unlink()
+
+        status, output, error = self.answer(["rename", "--pattern=%title%", self.root], interfere,
+                                            b"k\n")
+        self.assertEqual((status, output.count(" -> ")), (1, 2))
+        self.assertRegex(error, r"1\.mp3: .*already exists")
+        self.assertRegex(error, r"3\.mp3: .*No such file")
+        self.assertEqual(set(self.contents()), {"1.mp3", "One.mp3", "Two 2.mp3", "Two.mp3"})
 
     @unittest.skipUnless(os.geteuid() == 0, "A folder must belong to somebody else")
     def test_a_name_that_cannot_be_given_keeps_no_other_from_its_own(self):
