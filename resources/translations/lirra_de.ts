@@ -68,6 +68,10 @@
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
+    <message>
+        <source>The empty folder “%1” could not be moved to the Trash</source>
+        <translation>Der leere Ordner „%1“ konnte nicht in den Papierkorb gelegt werden</translation>
+    </message>
 </context>
 <context>
     <name>HRFApplicationDelegate</name>

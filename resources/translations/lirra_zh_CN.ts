@@ -68,6 +68,10 @@
         <source>Done</source>
         <translation>完成</translation>
     </message>
+    <message>
+        <source>The empty folder “%1” could not be moved to the Trash</source>
+        <translation>无法将空文件夹“%1”移到回收站</translation>
+    </message>
 </context>
 <context>
     <name>HRFApplicationDelegate</name>
