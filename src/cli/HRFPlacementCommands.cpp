@@ -101,23 +101,29 @@ void Placement::preview(const std::function<HRFFilePlan(const Records &)> &makeP
     });
 }
 
-/// Nothing takes a place that is not as free as it was when that was planned. The files are renamed
-/// by themselves, not by edits of their records: an edit ends at the first that cannot be renamed.
+/// Nothing takes a place that is not as free as it was when that was planned.
+HRFResult<HRFFileReference> renameFile(const HRFMetaFile &record, const HRFPlannedFile &planned)
+{
+    const std::optional<HRFFileReference> file = record.url();
+    if (!file)
+        return std::unexpected(HRFFileNotFoundError(planned.source.displayName()));
+    if (*file == planned.destination)
+        return *file;
+    HRFFileManager manager;
+    if (planned.replaces)
+        manager.setFileExistsRecovery(HRFFileExistsRecovery::Replace);
+    return manager.moveItemAtURL(*file, planned.destination);
+}
+
+/// Not by edits of the records: such an edit ends at the first file that cannot be renamed.
 void renameFiles(const Placement &placement, HRFPlaylist &list, PlannedFiles files)
 {
-    HRFFileManager manager;
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (placement.run.hasToEnd())
             return placement.run.leaveOut(files.size() - i);
-        const HRFPlannedFile &planned = files[i];
-        const HRFMetaFile &record = *list.fileWithID(planned.objectID);
-        manager.setFileExistsRecovery(planned.replaces ? HRFFileExistsRecovery::Replace
-                                                       : HRFFileExistsRecovery::Stop);
-        const auto renamed = planned.source == planned.destination
-            ? planned.source
-            : manager.moveItemAtURL(planned.source, planned.destination);
-        if (renamed)
-            placement.report.tellOfDone(record, planned.source, *renamed);
+        const HRFMetaFile &record = *list.fileWithID(files[i].objectID);
+        if (const auto renamed = renameFile(record, files[i]))
+            placement.report.tellOfDone(record, files[i].source, *renamed);
         else
             placement.report.tellOfFailed(record, renamed.error());
     }

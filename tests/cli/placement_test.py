@@ -210,7 +210,7 @@ class PlacementTest(ProgramTest):
                                             b"k\n")
         self.assertEqual((status, output.count(" -> ")), (1, 2))
         self.assertRegex(error, r"1\.mp3: .*already exists")
-        self.assertRegex(error, r"3\.mp3: .*No such file")
+        self.assertRegex(error, r"3\.mp3: .*could not be found")
         self.assertEqual(set(self.contents()), {"1.mp3", "One.mp3", "Two 2.mp3", "Two.mp3"})
 
     @unittest.skipUnless(os.geteuid() == 0, "A folder must belong to somebody else")
