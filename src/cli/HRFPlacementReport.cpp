@@ -71,10 +71,11 @@ void HRFPlacementReport::tellOfRefused(const HRFMetaFile &record, const HRFPlann
 {
     if (tellsWarnings)
         tellWarnings(record, planned);
-    m_run.fail(record, *planned.refusal);
+    const HRFError refusal = planned.refusal.value_or(HRFError());
+    m_run.fail(record, refusal);
     if (!m_printsJSON)
         return;
-    QJsonObject object = failureObject(m_run.givenPath(record), *planned.refusal);
+    QJsonObject object = failureObject(m_run.givenPath(record), refusal);
     insertWarnings(object, planned);
     m_run.console().print(lineOf(object));
 }

@@ -249,11 +249,12 @@ void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders)
         return;
     for (const HRFFileReference &folder : folders) {
         // Something may have come into it while the question was on the screen.
-        if (isEmptyFolder(folder) && !moveToTrash(folder))
+        if (isEmptyFolder(folder) && !moveToTrash(folder)) {
             HRFUserInteraction::presentErrorLater(
                 {.domain = QString::fromLatin1(HRFFileErrorDomain),
                  .code = HRFFileErrorCode::writeUnknown,
                  .description = tr("The empty folder “%1” could not be moved to the Trash")
                                     .arg(folder.displayPath())});
+        }
     }
 }

@@ -67,10 +67,11 @@ HRFConversionOutcome HRFFileOperationCC::renameFilesWithPattern(const HRFPattern
         plan.files, [](const HRFPlannedFile &planned) { return bool(planned.refusal); });
     if (failed != plan.files.end()) {
         selectFiles(refusedFiles(plan.files));
-        outcome.error = isEmptyRendering(*failed->refusal)
+        const HRFError refusal = failed->refusal.value_or(HRFError());
+        outcome.error = isEmptyRendering(refusal)
             ? selectedFailures(
                   tr("Some files failed renaming because their new filenames were null"))
-            : *failed->refusal;
+            : refusal;
     }
     return outcome;
 }
