@@ -53,7 +53,7 @@ void HRFStatusLine::refresh()
     const QString count = shown.size() == 1
         ? tr("1 file")
         : tr("%1 files").arg(locale.toString(qulonglong(shown.size())));
-    const bool isPart = selected.size() > 1 && selected.size() < shown.size();
+    const bool isPart = !selected.empty() && selected.size() < shown.size();
     const auto &summed = isPart ? selected : shown;
     QStringList parts{
         isPart ? tr("%1 of %2 selected").arg(locale.toString(qulonglong(selected.size())), count)
