@@ -24,7 +24,7 @@ HRFFileImportOperation::HRFFileImportOperation(const HRFFileReference &file,
                                                std::shared_ptr<const HRFImportBatch> batch)
     : m_referenceURL(referenceURL), m_sortIndex(sortIndex), m_batch(std::move(batch))
 {
-    setFileURL(file);
+    setFileURL(file, referenceURL);
     setProgress(m_batch->progress);
 }
 

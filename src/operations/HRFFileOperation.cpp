@@ -45,8 +45,11 @@ HRFFileReference HRFFileOperation::fileURL() const
 
 void HRFFileOperation::setFileURL(const HRFFileReference &file)
 {
-    const QString referenceURL =
-        HRFFileReferenceTable::referenceURLForFile(file).value_or(QString());
+    setFileURL(file, HRFFileReferenceTable::referenceURLForFile(file).value_or(QString()));
+}
+
+void HRFFileOperation::setFileURL(const HRFFileReference &file, const QString &referenceURL)
+{
     const std::lock_guard lock(m_fieldsMutex);
     m_fileURL = file;
     m_fileName = file.displayName();

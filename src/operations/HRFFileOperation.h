@@ -35,6 +35,8 @@ public:
     /// The file where it was last known to be; null when it was looked for and not found.
     HRFFileReference fileURL() const;
     void setFileURL(const HRFFileReference &file);
+    /// @param referenceURL that of the file, where it is known already
+    void setFileURL(const HRFFileReference &file, const QString &referenceURL);
     /// The name of the file, for the user; known even when the file is not found.
     QString fileName() const;
     /// Names the file wherever it moves: its reference URL, else its path. Empty without a file.
