@@ -108,19 +108,23 @@ void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
 
 void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
 {
-    QHash<HRFObjectID, QString> names;
+    Names names;
+    names.reserve(renamings.size());
+    bool areAsAsked = true;
     std::optional<HRFError> failure;
     for (const auto &[record, file, oldName] : renamings) {
         QString name = oldName;
         if (!failure) {
-            const auto moved = file ? rename(*file, record->fileInfo().fileName())
+            const QString asked = record->fileInfo().fileName();
+            const auto moved = file ? rename(*file, asked)
                                     : std::unexpected(HRFFileNotFoundError(oldName));
             if (moved)
                 name = moved->displayName();
             else
                 failure = moved.error();
+            areAsAsked = areAsAsked && name == asked;
         }
-        names.insert(record->objectID(), name);
+        names.emplace_back(record->objectID(), name);
     }
     if (failure) {
         takeBackRename();
@@ -132,21 +136,21 @@ void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
              .path = failure->path,
              .underlying = std::make_shared<HRFError>(*failure)});
     }
-    setNames(names);
+    if (!areAsAsked)
+        setNames(names);
 }
 
 /// Puts right what records say; most of them have the names of their files already.
-void HRFMetaFileManager::setNames(const QHash<HRFObjectID, QString> &names)
+void HRFMetaFileManager::setNames(Names names)
 {
-    QHash<HRFObjectID, QString> wrong = names;
-    wrong.removeIf([this](const auto &entry) {
-        const auto *file = managedObjectContext()->object<HRFMetaFile>(entry.key());
-        return file && file->fileInfo().fileName() == entry.value();
+    std::erase_if(names, [this](const auto &entry) {
+        const auto *file = managedObjectContext()->object<HRFMetaFile>(entry.first);
+        return file && file->fileInfo().fileName() == entry.second;
     });
-    if (wrong.isEmpty())
+    if (names.empty())
         return;
-    m_document.performBlockInBackgroundContext([wrong](HRFPrivateContext &context) {
-        for (const auto &[objectID, name] : wrong.asKeyValueRange())
+    m_document.performBlockInBackgroundContext([names](HRFPrivateContext &context) {
+        for (const auto &[objectID, name] : names)
             if (auto *file = context.object<HRFMetaFile>(objectID))
                 file->fileInfo().setFileName(name);
     });

@@ -99,7 +99,8 @@ private:
         QString oldName;
     };
     void renameFiles(const std::vector<Renaming> &renamings);
-    void setNames(const QHash<HRFObjectID, QString> &names);
+    using Names = std::vector<std::pair<HRFObjectID, QString>>;
+    void setNames(Names names);
     [[nodiscard]] HRFResult<HRFFileReference> rename(const HRFFileReference &file,
                                                      const QString &name);
     void takeBackRename();
