@@ -116,7 +116,7 @@ void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
         QString name = oldName;
         if (!failure) {
             const QString asked = record->fileInfo().fileName();
-            const auto moved = file ? rename(*file, asked)
+            const auto moved = file ? rename(*file, asked, record->fileURL())
                                     : std::unexpected(HRFFileNotFoundError(oldName));
             if (moved)
                 name = moved->displayName();
@@ -157,12 +157,12 @@ void HRFMetaFileManager::setNames(Names names)
 }
 
 HRFResult<HRFFileReference> HRFMetaFileManager::rename(const HRFFileReference &file,
-                                                       const QString &name)
+                                                       const QString &name, const QString &fileURL)
 {
     const bool isName =
         !name.isEmpty() && name != u"."_s && name != u".."_s && !name.contains(QChar(u'\0'));
     if (isName)
-        return m_fileManager.moveItemAtURL(file, file.withDisplayName(name));
+        return m_fileManager.moveItemAtURL(file, file.withDisplayName(name), fileURL);
     return std::unexpected(HRFError{
         .domain = QString::fromLatin1(HRFPOSIXErrorDomain),
         .code = EINVAL,

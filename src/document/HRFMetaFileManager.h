@@ -102,7 +102,7 @@ private:
     using Names = std::vector<std::pair<HRFObjectID, QString>>;
     void setNames(Names names);
     [[nodiscard]] HRFResult<HRFFileReference> rename(const HRFFileReference &file,
-                                                     const QString &name);
+                                                     const QString &name, const QString &fileURL);
     void takeBackRename();
 
     HRFPlaylist &m_document;

@@ -425,6 +425,16 @@ void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFF
         Table::shared().move(*reference, known->place, Place::of(absolutePath(to.nativePath())));
 }
 
+void HRFFileReferenceTable::fileWithURLDidMove(const QString &referenceURL,
+                                               const HRFFileReference &to)
+{
+    const std::optional<Reference> reference =
+        referenceURL.startsWith(referencePrefix) ? referenceFromURL(referenceURL) : std::nullopt;
+    const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
+    if (known)
+        Table::shared().move(*reference, known->place, Place::of(absolutePath(to.nativePath())));
+}
+
 void HRFFileReferenceTable::fileWillReplace(int replacement, int original)
 {
     const std::optional<File> successor = fileOfDescriptor(replacement);

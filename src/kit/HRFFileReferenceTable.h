@@ -40,6 +40,9 @@ void fileDidBecome(const QString &referenceURL, const HRFFileReference &file);
 
 /// To be told when this program has moved a file.
 void fileDidMove(const HRFFileReference &from, const HRFFileReference &to);
+/// The same for a move within a file system, where the reference is known: nothing has to be looked
+/// up on the disk.
+void fileWithURLDidMove(const QString &referenceURL, const HRFFileReference &to);
 
 /// To be told that a file which this program has just made will take the place of another, whose
 /// reference it is to have. Both are open. Until fileDidReplace() the one or the other is the file

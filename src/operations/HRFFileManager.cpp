@@ -45,12 +45,21 @@ int makeWritable(int failure, const HRFFileReference &folder)
     return ::chmod(folder.nativePath().constData(), mode) == 0 ? 0 : failure;
 }
 
+void tellOfMove(const HRFTransfer &transfer)
+{
+    if (transfer.sourceURL.isEmpty())
+        HRFFileReferenceTable::fileDidMove(transfer.source, transfer.destination);
+    else
+        HRFFileReferenceTable::fileWithURLDidMove(transfer.sourceURL, transfer.destination);
+}
+
 } // namespace
 
 HRFResult<HRFFileReference> HRFFileManager::moveItemAtURL(const HRFFileReference &source,
-                                                          const HRFFileReference &destination)
+                                                          const HRFFileReference &destination,
+                                                          const QString &sourceURL)
 {
-    return perform({HRFTransfer::Kind::Move, source, destination});
+    return perform({HRFTransfer::Kind::Move, source, destination, sourceURL});
 }
 
 HRFResult<HRFFileReference> HRFFileManager::copyItemAtURL(const HRFFileReference &source,
@@ -92,7 +101,7 @@ HRFResult<HRFFileReference> HRFFileManager::attempt(const HRFTransfer &transfer,
     if (failure != 0)
         return std::unexpected(HRFErrorForTransfer(transfer, failure));
     if (transfer.kind == HRFTransfer::Kind::Move)
-        HRFFileReferenceTable::fileDidMove(transfer.source, transfer.destination);
+        tellOfMove(transfer);
     return transfer.destination;
 }
 
@@ -119,7 +128,8 @@ HRFResult<HRFFileReference> HRFFileManager::keepBoth(const HRFTransfer &transfer
 {
     for (int number = 2;; ++number) {
         const auto place = numberedURL(transfer.destination, number);
-        const auto done = attempt({transfer.kind, transfer.source, place}, false);
+        const auto done =
+            attempt({transfer.kind, transfer.source, place, transfer.sourceURL}, false);
         if (done || !HRFIsFileExistsError(done.error()) || number == HRFLastNumberOfName)
             return done;
     }

@@ -39,8 +39,11 @@ public:
     void protectItem(const HRFFileReference &item);
 
     /// Nothing is overwritten unless fileExistsRecovery says so.
+    /// @param sourceURL the reference of the source, where that is known and the move stays within
+    /// a file system
     [[nodiscard]] HRFResult<HRFFileReference> moveItemAtURL(const HRFFileReference &source,
-                                                            const HRFFileReference &destination);
+                                                            const HRFFileReference &destination,
+                                                            const QString &sourceURL = {});
     [[nodiscard]] HRFResult<HRFFileReference> copyItemAtURL(const HRFFileReference &source,
                                                             const HRFFileReference &destination);
     /// Copies an item to the place of another one, or where there is none, in one step.

@@ -11,6 +11,7 @@ struct HRFTransfer
     Kind kind = Kind::Move;
     HRFFileReference source{};
     HRFFileReference destination{};
+    QString sourceURL{}; ///< the reference of the source, where it is known
 };
 
 /// The code of HRFFileErrorDomain for an errno; 0 where there is none.
