@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -79,7 +80,9 @@ QString paddedText(const QVariant &value, const HRFRecordValues &values, const Q
         if (total.isValid())
             width = std::max(width, HRFPlainText(total).size());
     }
-    return QString::asprintf("%0*lld", int(width), value.toLongLong());
+    const QString digits = QString::number(std::abs(value.toLongLong()));
+    const QString sign = value.toLongLong() < 0 ? u"-"_s : QString();
+    return sign + digits.rightJustified(width - sign.size(), u'0');
 }
 
 /// Hands the texts of the elements on, one by one; false when a token yields nothing.
