@@ -256,8 +256,11 @@ QString referenceURL(const Reference &reference)
     return reference.generation == 1 ? url : url + u'.' + QString::number(reference.generation);
 }
 
+/// Nothing for a URL that is no reference.
 std::optional<Reference> referenceFromURL(QStringView url)
 {
+    if (!url.startsWith(referencePrefix))
+        return {};
     const auto numbers = url.sliced(referencePrefix.size()).split(u'.');
     if (numbers.size() < 2 || numbers.size() > 3)
         return {};
@@ -405,8 +408,7 @@ void HRFFileReferenceTable::preferPath(const HRFFileReference &file)
 void HRFFileReferenceTable::fileDidBecome(const QString &referenceURL, const HRFFileReference &file)
 {
     const std::optional<File> present = fileAt(file.nativePath());
-    const std::optional<Reference> reference =
-        referenceURL.startsWith(referencePrefix) ? referenceFromURL(referenceURL) : std::nullopt;
+    const std::optional<Reference> reference = referenceFromURL(referenceURL);
     if (present && reference)
         Table::shared().hand(*reference, *present, Place::of(absolutePath(file.nativePath())));
 }
@@ -428,8 +430,7 @@ void HRFFileReferenceTable::fileDidMove(const HRFFileReference &from, const HRFF
 void HRFFileReferenceTable::fileWithURLDidMove(const QString &referenceURL,
                                                const HRFFileReference &to)
 {
-    const std::optional<Reference> reference =
-        referenceURL.startsWith(referencePrefix) ? referenceFromURL(referenceURL) : std::nullopt;
+    const std::optional<Reference> reference = referenceFromURL(referenceURL);
     const auto known = reference ? Table::shared().find(*reference) : std::nullopt;
     if (known)
         Table::shared().move(*reference, known->place, Place::of(absolutePath(to.nativePath())));
