@@ -1,6 +1,7 @@
 #include "list/HRFBenchRecords.h"
 
-#include "corpus/HRFCorpusAlbum.h"
+#include "corpus/HRFCorpusID3.h"
+#include "corpus/HRFCorpusMPEG.h"
 #include "kit/HRFFileReferenceTable.h"
 #include "kit/HRFMainThread.h"
 #include "sides/HRFOrThrow.h"
@@ -95,8 +96,15 @@ HRFFileSnapshot snapshotOf(const HRFCorpusAlbum &album, const HRFCorpusTrack &tr
             .artwork = HRFArtworkFactsForPicture(QByteArray::fromStdString(album.picture))};
 }
 
+std::string contentsOf(const HRFCorpusAlbum &album, const HRFCorpusTrack &track)
+{
+    constexpr std::size_t soundSize = 4 << 10;
+    return HRFMakeCorpusID3(album, track, HRFCorpusID3Version::v4)
+        + HRFMakeCorpusMPEG(album.bitRate, soundSize);
+}
+
 HRFFileReference makeFile(const QString &folder, const HRFCorpusAlbum &album,
-                          const HRFCorpusTrack &track)
+                          const HRFCorpusTrack &track, bool hasSound)
 {
     const QString albumFolder = u"%1/%2/%3 %4"_s.arg(folder, QString::fromStdString(album.artist))
                                     .arg(album.number)
@@ -109,6 +117,8 @@ HRFFileReference makeFile(const QString &folder, const HRFCorpusAlbum &album,
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         throw std::runtime_error(file.errorString().toStdString());
+    if (hasSound)
+        file.write(QByteArray::fromStdString(contentsOf(album, track)));
     return HRFFileReference::fromPath(path);
 }
 
@@ -121,14 +131,14 @@ void insertRecord(HRFPrivateContext &context, int index, const HRFFileReference 
     record->importValues(snapshot);
 }
 
-void insertRecords(HRFPrivateContext &context, const QString &folder, int count)
+void insertRecords(HRFPrivateContext &context, const QString &folder, int count, int soundCount)
 {
     HRFCorpusAlbum album;
     for (int i = 0; i < count; ++i) {
         if (i % tracksPerAlbum == 0)
             album = HRFMakeCorpusAlbum(i / tracksPerAlbum, tracksPerAlbum);
         const HRFCorpusTrack &track = album.tracks[std::size_t(i % tracksPerAlbum)];
-        const HRFFileReference file = makeFile(folder, album, track);
+        const HRFFileReference file = makeFile(folder, album, track, i < soundCount);
         insertRecord(context, i, file, snapshotOf(album, track, file));
         if ((i + 1) % filesPerSave == 0 || i + 1 == count)
             HRFOrThrow(context.save());
@@ -138,11 +148,12 @@ void insertRecords(HRFPrivateContext &context, const QString &folder, int count)
 } // namespace
 
 void HRFInsertBenchRecords(const std::shared_ptr<HRFMainContext> &context, const QString &folder,
-                           int count)
+                           int count, int soundCount)
 {
     const auto background = std::make_shared<HRFPrivateContext>(context);
     std::packaged_task<void()> task([&] {
-        background->performBlockAndWait([&] { insertRecords(*background, folder, count); });
+        background->performBlockAndWait(
+            [&] { insertRecords(*background, folder, count, soundCount); });
     });
     std::future<void> end = task.get_future();
     std::thread worker([&] {

@@ -50,6 +50,20 @@ void appendFolded(QString &folded, const QString &text)
     folded.truncate(end - folded.constData());
 }
 
+/// Whether an attribute is shown as digits, but for a sign. It takes longer to write numbers out
+/// than to search all texts of a record.
+bool isShownAsDigits(const HRFAttributeDescription &attribute)
+{
+    const bool isWhole = attribute.isNumeric() && attribute.type <= HRFAttributeType::Integer64;
+    return isWhole && !attribute.hasCustomTransformer();
+}
+
+bool isOfDigits(const QString &word)
+{
+    return std::ranges::all_of(
+        word, [](QChar character) { return character.isDigit() || character == u'-'; });
+}
+
 } // namespace
 
 HRFRecordFilter
@@ -62,8 +76,10 @@ HRFRecordFilterForWords(const QString &text,
     if (words.isEmpty())
         return {};
     std::vector<HRFRecordColumn> columns;
+    const bool searchesDigits = std::ranges::any_of(words, isOfDigits);
     for (const HRFAttributeDescription *attribute : attributes)
-        columns.emplace_back(*attribute);
+        if (searchesDigits || !isShownAsDigits(*attribute))
+            columns.emplace_back(*attribute);
     return [words, columns, texts = QString()](const HRFMetaFile &file) mutable {
         texts.resize(0); // keeps its room for the next record
         for (const HRFRecordColumn &column : columns) {
