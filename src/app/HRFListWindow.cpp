@@ -6,11 +6,13 @@
 #include "app/HRFFileURIs.h"
 #include "app/HRFFilterMenu.h"
 #include "app/HRFIcons.h"
+#include "app/HRFImportNotice.h"
 #include "app/HRFListCommands.h"
 #include "app/HRFListFilter.h"
 #include "app/HRFListHeader.h"
 #include "app/HRFListModel.h"
 #include "app/HRFListView.h"
+#include "app/HRFPendingWork.h"
 #include "app/HRFSelectionLink.h"
 #include "app/HRFSidebar.h"
 #include "app/HRFSidebarSplitter.h"
@@ -95,6 +97,8 @@ void HRFListWindow::makeBars()
     makeFilterField(*bar);
     statusBar()->setObjectName(u"statusBar"_s);
     statusBar()->addWidget(new HRFStatusLine(m_list, this), 1);
+    statusBar()->addPermanentWidget(new HRFImportNotice(m_list.fileManager(), this));
+    statusBar()->addPermanentWidget(new HRFPendingWork(m_list, this));
 }
 
 void HRFListWindow::makeFilterField(QToolBar &bar)

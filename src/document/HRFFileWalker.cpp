@@ -27,7 +27,10 @@ struct Entry
 class Walk
 {
 public:
-    explicit Walk(const std::function<bool()> &isCancelled) : m_isCancelled(isCancelled) { }
+    Walk(const std::function<bool()> &isCancelled, const std::function<void()> &didFindFirst)
+        : m_isCancelled(isCancelled), m_didFindFirst(didFindFirst)
+    {
+    }
 
     void addPath(const HRFFileReference &path);
     HRFFoundFiles takeFound() { return std::move(m_found); }
@@ -43,6 +46,7 @@ private:
     }
 
     const std::function<bool()> &m_isCancelled;
+    const std::function<void()> &m_didFindFirst;
     const QCollator m_collator = HRFCollation::naturalOrder();
     HRFFoundFiles m_found;
     QSet<QString> m_urls; ///< of the files found
@@ -92,6 +96,8 @@ void Walk::addFile(const HRFFileReference &file)
         return;
     m_urls.insert(*url);
     m_found.files.push_back({file, *url});
+    if (m_found.files.size() == 1)
+        m_didFindFirst();
 }
 
 void Walk::addFolder(const HRFFileReference &folder)
@@ -143,9 +149,10 @@ std::vector<Entry> Walk::sortedEntries(const HRFFileReference &folder)
 } // namespace
 
 HRFFoundFiles HRFFileWalker::find(const std::vector<HRFFileReference> &paths,
-                                  const std::function<bool()> &isCancelled)
+                                  const std::function<bool()> &isCancelled,
+                                  const std::function<void()> &didFindFirst)
 {
-    Walk walk(isCancelled);
+    Walk walk(isCancelled, didFindFirst);
     for (const HRFFileReference &path : paths)
         if (!isCancelled())
             walk.addPath(path);

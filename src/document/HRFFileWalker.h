@@ -39,7 +39,9 @@ namespace HRFFileWalker {
 ///
 /// May be called from any thread.
 /// @param isCancelled asked again and again; once true, what was found until then is returned
-HRFFoundFiles find(const std::vector<HRFFileReference> &paths,
-                   const std::function<bool()> &isCancelled);
+/// @param didFindFirst called as soon as there is something to return
+HRFFoundFiles find(
+    const std::vector<HRFFileReference> &paths, const std::function<bool()> &isCancelled,
+    const std::function<void()> &didFindFirst = [] { });
 
 } // namespace HRFFileWalker

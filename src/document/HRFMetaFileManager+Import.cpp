@@ -11,6 +11,8 @@
 #include "tags/HRFTagEngine.h"
 
 #include <algorithm>
+#include <future>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using Wait = HRFMainThread::Wait;
@@ -25,20 +27,55 @@ QSet<QString> urlsOf(const std::vector<HRFFoundFile> &files)
     return urls;
 }
 
+/// An answer that one thread waits for; "no" when nobody gives it.
+class FirstAnswer
+{
+public:
+    ~FirstAnswer() { give(false); }
+    std::future<bool> future() { return m_answer.get_future(); }
+    void give(bool answer)
+    {
+        if (!std::exchange(m_isGiven, true))
+            m_answer.set_value(answer);
+    }
+
+private:
+    std::promise<bool> m_answer;
+    bool m_isGiven = false;
+};
+
 } // namespace
 
 bool HRFMetaFileManager::parseFiles(const std::vector<HRFFileReference> &paths)
 {
-    return importFoundFiles(HRFFileWalker::find(paths, [] { return false; }));
+    // So long may the window stand still.
+    constexpr std::chrono::milliseconds patience(100);
+    if (m_hasStopped)
+        return false;
+    const auto outcome = std::make_shared<FirstAnswer>();
+    std::future<bool> hasFiles = outcome->future();
+    m_imports.run([this, paths, outcome] {
+        runImport([this, &paths, &outcome](const HRFProgress &progress) {
+            HRFFoundFiles found = HRFFileWalker::find(
+                paths, [&] { return m_hasStopped || progress.isCancelled(); },
+                [&outcome] { outcome->give(true); });
+            outcome->give(!found.files.empty());
+            return found;
+        });
+    });
+    return m_importProgress || hasFiles.wait_for(patience) == std::future_status::timeout
+        || hasFiles.get();
 }
 
 bool HRFMetaFileManager::importFoundFiles(HRFFoundFiles found)
 {
-    if (!found.problems.empty())
-        Q_EMIT filesWereNotImported(found.problems);
-    if (found.files.empty() || m_hasStopped)
+    if (found.files.empty() || m_hasStopped) {
+        tellProblems(found.problems);
         return false;
-    m_imports.run([this, files = std::move(found.files)] { runImport(files); });
+    }
+    m_imports.run([this, found = std::move(found)] {
+        runImport([&found](const HRFProgress &) { return found; });
+    });
     return true;
 }
 
@@ -50,14 +87,34 @@ void HRFMetaFileManager::stopImports()
     m_imports.waitUntilIdle();
 }
 
-void HRFMetaFileManager::runImport(const std::vector<HRFFoundFile> &files)
+void HRFMetaFileManager::runImport(const Search &search)
 {
     const std::lock_guard turn(m_importTurn);
+    const auto progress = HRFMainThread::makeShared<HRFProgress>();
+    HRFMainThread::run([this, progress] { beginProgress(progress); }, Wait::No);
+    HRFFoundFiles found;
+    HRFUserInteraction::presentFailures([&] { found = search(*progress); });
+    tellProblems(found.problems);
+    if (found.files.empty())
+        HRFMainThread::run([this] { endProgress(); }, Wait::Yes);
+    else
+        importFound(found.files, progress);
+}
+
+void HRFMetaFileManager::tellProblems(const std::vector<HRFFileProblem> &problems)
+{
+    if (!problems.empty())
+        HRFMainThread::run([&] { Q_EMIT filesWereNotImported(problems); }, Wait::Yes);
+}
+
+void HRFMetaFileManager::importFound(const std::vector<HRFFoundFile> &files,
+                                     const std::shared_ptr<HRFProgress> &progress)
+{
     QSet<QString> imported;
     {
         const HRFUndoSuspension noUndo(managedObjectContext());
         HRFUserInteraction::presentFailures([&] {
-            if (importFiles(files, imported))
+            if (importFiles(files, progress, imported))
                 saveImport();
         });
     }
@@ -83,15 +140,17 @@ void HRFMetaFileManager::saveImport()
 }
 
 bool HRFMetaFileManager::importFiles(const std::vector<HRFFoundFile> &files,
+                                     const std::shared_ptr<HRFProgress> &progress,
                                      QSet<QString> &imported)
 {
+    if (progress->isCancelled())
+        return false;
     const std::vector<HRFFoundFile> newFiles = filesNotInList(files);
     if (newFiles.empty()) {
         HRFMainThread::run([&] { Q_EMIT importDidEnd(urlsOf(files)); }, Wait::Yes);
         return false;
     }
-    std::shared_ptr<HRFProgress> progress;
-    HRFMainThread::run([&] { progress = beginProgress(newFiles.size()); }, Wait::Yes);
+    HRFMainThread::run([&] { countFiles(newFiles.size()); }, Wait::Yes);
     const Operations operations = makeOperations(newFiles, progress);
     read(operations);
     bool isCancelled = false; // cancelling later has no effect
@@ -125,20 +184,25 @@ HRFMetaFileManager::filesNotInList(const std::vector<HRFFoundFile> &files) const
     return missing;
 }
 
-std::shared_ptr<HRFProgress> HRFMetaFileManager::beginProgress(std::size_t fileCount)
+void HRFMetaFileManager::beginProgress(const std::shared_ptr<HRFProgress> &progress)
 {
-    constexpr std::size_t quickImport = 100;
     constexpr std::chrono::milliseconds delay(1000);
-    const auto progress = std::make_shared<HRFProgress>(qlonglong(fileCount));
     progress->setLocalizedDescription(tr("Reading Metadata…"));
-    progress->setCancellationHandler([this] { m_fileReadQueue.cancelAllOperations(); });
     m_progressWindow = std::make_unique<HRFProgressWindowController>(progress);
     m_progressWindow->setTitleShowsProcessing(false);
-    m_progressWindow->showAsSheet(fileCount <= quickImport ? delay : std::chrono::milliseconds());
+    m_progressWindow->showAsSheet(delay);
     m_importProgress = progress;
     if (m_hasStopped)
         progress->cancel();
-    return progress;
+}
+
+void HRFMetaFileManager::countFiles(std::size_t fileCount)
+{
+    constexpr std::size_t quickImport = 100;
+    m_importProgress->setTotalUnitCount(qlonglong(fileCount));
+    m_importProgress->setCancellationHandler([this] { m_fileReadQueue.cancelAllOperations(); });
+    if (fileCount > quickImport)
+        m_progressWindow->showAsSheet();
 }
 
 void HRFMetaFileManager::endProgress()
@@ -160,8 +224,12 @@ HRFMetaFileManager::makeOperations(const std::vector<HRFFoundFile> &files,
         if (const auto onFile = std::dynamic_pointer_cast<HRFFileOperation>(operation))
             pending[onFile->fileKey()].push_back(operation);
     const auto batch =
-        std::make_shared<const HRFImportBatch>(m_backgroundContext, progress, m_inspector,
-                                               [this] { saveBackgroundContextAndPresentErrors(); });
+        std::make_shared<const HRFImportBatch>(m_backgroundContext, progress, m_inspector, [this] {
+            // In parts: all at once would keep the window
+            // from answering.
+            if (saveBackgroundContextAndPresentErrors())
+                saveImport();
+        });
     Operations operations;
     for (const HRFFoundFile &file : files) {
         if (progress->isCancelled())

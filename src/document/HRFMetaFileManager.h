@@ -10,6 +10,7 @@
 
 #include <QSet>
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -53,9 +54,9 @@ public:
     /// Looks at the engine of each file that is imported from now on. Called on reading threads.
     void setEngineInspector(HRFEngineInspector inspector) { m_inspector = std::move(inspector); }
 
-    /// Adds files, and those in folders, that are not in the list yet.
-    /// @return whether there is any audio file among them; the import goes on in the background
-    /// then
+    /// Adds files, and those in folders, that are not in the list yet, in the background.
+    /// @return false when there is no audio file among them. Where that takes long to find out, or
+    /// another import comes first, true is returned in any case.
     bool parseFiles(const std::vector<HRFFileReference> &paths);
     /// The same for files that were found before.
     bool importFoundFiles(HRFFoundFiles found);
@@ -73,10 +74,17 @@ Q_SIGNALS:
 private:
     using Operations = std::vector<std::shared_ptr<HRFFileImportOperation>>;
 
+    /// Finds the files of an import; stops when the progress is cancelled.
+    using Search = std::function<HRFFoundFiles(const HRFProgress &progress)>;
+
     // In the background:
-    void runImport(const std::vector<HRFFoundFile> &files);
+    void runImport(const Search &search);
+    void importFound(const std::vector<HRFFoundFile> &files,
+                     const std::shared_ptr<HRFProgress> &progress);
     void saveImport();
-    bool importFiles(const std::vector<HRFFoundFile> &files, QSet<QString> &imported);
+    bool importFiles(const std::vector<HRFFoundFile> &files,
+                     const std::shared_ptr<HRFProgress> &progress, QSet<QString> &imported);
+    void tellProblems(const std::vector<HRFFileProblem> &problems);
     std::vector<HRFFoundFile> filesNotInList(const std::vector<HRFFoundFile> &files) const;
     Operations makeOperations(const std::vector<HRFFoundFile> &files,
                               const std::shared_ptr<HRFProgress> &progress);
@@ -86,7 +94,8 @@ private:
     QSet<QString> sortOutcomes(const Operations &operations, bool isCancelled);
 
     // On the main thread:
-    std::shared_ptr<HRFProgress> beginProgress(std::size_t fileCount);
+    void beginProgress(const std::shared_ptr<HRFProgress> &progress);
+    void countFiles(std::size_t fileCount);
     void endProgress();
     static void showInvalidFilesError(const std::vector<HRFFileReference> &files);
     void contextDidChange(const HRFContextChanges &changes);
@@ -115,7 +124,7 @@ private:
     std::shared_ptr<HRFProgress> m_writeProgress;
     std::unique_ptr<HRFProgressWindowController> m_progressWindow;
     bool m_isTakingBackRename = false;
-    bool m_hasStopped = false; ///< stopImports was called
+    std::atomic<bool> m_hasStopped = false; ///< stopImports was called
     std::mutex m_importTurn; ///< lets one import run at a time: what it finds new must stay so
     HRFBackgroundGroup m_imports;
     const HRFWeakSelf<HRFMetaFileManager> m_weakSelf{this};

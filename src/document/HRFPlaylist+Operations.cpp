@@ -142,6 +142,7 @@ void HRFPlaylist::queueOperations(const Operations &operations, const Afterwork 
         runSlice({slice, end}, batch, end == batch->operations.end());
         slice = end;
     } while (slice != batch->operations.end());
+    Q_EMIT fileOperationsDidBegin();
 }
 
 void HRFPlaylist::runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch,

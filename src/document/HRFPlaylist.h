@@ -109,6 +109,8 @@ public:
                                             std::function<void()> whenDone = {});
 
 Q_SIGNALS:
+    /// Operations on files of this list were queued.
+    void fileOperationsDidBegin();
     /// A batch of operations on files of this list is done, well or not, and the records say so.
     void fileOperationsDidEnd(const HRFPlaylist::Operations &operations);
 

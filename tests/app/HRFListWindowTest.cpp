@@ -1,10 +1,12 @@
 #include "app/HRFFilterMenu.h"
 #include "app/HRFTestWithWindow.h"
+#include "support/HRFHeldQueue.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
 #include <QImage>
 #include <QToolBar>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -197,6 +199,40 @@ TEST_F(HRFListWindowTest, closesListsAndEndsWithTheLast)
     EXPECT_EQ(ends, 0);
     window->close();
     EXPECT_EQ(ends, 1);
+}
+
+TEST_F(HRFListWindowTest, tellsWhatWasNotAdded)
+{
+    makeFiles();
+    QDir().mkpath(path(u"empty"_s));
+    auto *notice = window->findChild<QToolButton *>(u"importNotice"_s);
+    drop({music(u"a.mp3"_s), HRFFileReference::fromPath(path(u"empty"_s)), music(u"gone.mp3"_s)});
+    waitUntil([&] { return notice->isVisible(); });
+    EXPECT_EQ(notice->text(), u"2 items were not added"_s);
+    user.answers = {{u"Show Files"_s}};
+    QTest::mouseClick(notice, Qt::LeftButton);
+    EXPECT_THAT(user.alerts.back().informativeText.split(u'\n'), testing::SizeIs(2));
+    EXPECT_THAT(user.revealedFiles, testing::SizeIs(2));
+    EXPECT_FALSE(notice->isVisible());
+    waitForWork();
+}
+
+TEST_F(HRFListWindowTest, letsTheUserCancelWhatIsNotWritten)
+{
+    makeFiles();
+    dropFolder(3);
+    auto *pending = window->findChild<QWidget *>(u"pendingWork"_s);
+    {
+        const HRFHeldQueue held;
+        type(cell(0, u"title"_s), u"Never"_s);
+        waitUntil([&] { return pending->isVisible(); });
+        user.answers = {{HRFAnswerRole::Cancel}, {HRFAnswerRole::Accept}};
+        for (int click = 0; click < 2; ++click)
+            pending->findChild<QAbstractButton *>()->click();
+    }
+    waitForWork();
+    waitUntil([&] { return !pending->isVisible(); });
+    EXPECT_EQ(onDisk(music(u"a.mp3"_s), HRFTagKey::title), u"Two"_s);
 }
 
 /// Who cannot see the screen is told what a control is.

@@ -9,6 +9,7 @@
 #include "store/HRFMetaFile.h"
 #include "store/HRFMetaTags.h"
 #include "store/HRFSystemFile.h"
+#include "support/HRFHeldQueue.h"
 #include "support/HRFScriptedInteraction.h"
 #include "support/HRFTestApplication.h"
 #include "support/HRFTestFile.h"
@@ -16,8 +17,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <latch>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -115,37 +114,6 @@ protected:
     std::vector<HRFFileProblem> problems;
 };
 
-/// Keeps the file-operation queue waiting, so that a test decides what it finds.
-class HeldQueue
-{
-public:
-    HeldQueue()
-    {
-        HRFMetaFileManager::fileOperationQueue().addBarrierBlock([gate = m_gate] {
-            gate->hasStarted.count_down();
-            gate->release.wait();
-        });
-        m_gate->hasStarted.wait();
-    }
-    HeldQueue(const HeldQueue &) = delete;
-    HeldQueue &operator=(const HeldQueue &) = delete;
-    ~HeldQueue() { release(); }
-    void release()
-    {
-        if (!std::exchange(m_isReleased, true))
-            m_gate->release.count_down();
-    }
-
-private:
-    struct Gate
-    {
-        std::latch hasStarted{1};
-        std::latch release{1};
-    };
-    const std::shared_ptr<Gate> m_gate = std::make_shared<Gate>();
-    bool m_isReleased = false;
-};
-
 /// From paths to records, through edits, to the bytes on the disk and back.
 TEST_F(HRFPlaylistTest, AFileLivesInAList)
 {
@@ -216,8 +184,10 @@ TEST_F(HRFPlaylistTest, ImportsTakeEveryFileOnce)
     EXPECT_THAT(problems, SizeIs(2)); // the missing file, and the unreadable one
 
     // Again: nothing is new, and what is there gets selected.
+    ends = 0;
     EXPECT_TRUE(list.importFilesAtPaths({music(u"01.mp3"_s), music(u"UPPER.MP3"_s)}));
-    waitUntil([&] { return endsWithSelection > 0 && list.selectedFiles().size() == 2; });
+    waitUntil([&] { return ends > 0; });
+    EXPECT_THAT(list.selectedFiles(), SizeIs(2));
     EXPECT_THAT(list.arrangedFiles(), SizeIs(4));
     EXPECT_FALSE(list.importFileAtPath(music(u"nowhere"_s)));
 }
@@ -262,7 +232,7 @@ TEST_F(HRFPlaylistTest, EditsBeforeTheWriteBecomeOneWrite)
     const QString old = onDisk(u"01.mp3"_s, HRFTagKey::title);
     std::vector<std::shared_ptr<HRFProgress>> progresses;
     {
-        HeldQueue held;
+        HRFHeldQueue held;
         for (const auto &[value, key] : {std::pair(u"T"_s, u"title"_s), {u"A"_s, u"artist"_s}}) {
             tags(u"01.mp3"_s).setValueForKey(value, key);
             list.managedObjectContext().processPendingChanges();
@@ -284,7 +254,7 @@ TEST_F(HRFPlaylistTest, AStripDropsThePendingWrite)
 {
     importCopies(1);
     {
-        HeldQueue held;
+        HRFHeldQueue held;
         tags(u"01.mp3"_s).setValueForKey(u"T"_s, u"title"_s);
         list.managedObjectContext().processPendingChanges();
         list.fileController().setSelectedObjects(list.arrangedFiles());
@@ -437,7 +407,7 @@ TEST_F(HRFPlaylistTest, QuittingWaitsForPendingWritesUnlessTheyAreCancelled)
 {
     importCopies(3);
     bool isTerminated = false;
-    HeldQueue held;
+    HRFHeldQueue held;
     for (HRFMetaFile *file : list.arrangedFiles())
         file->tags().setValueForKey(u"T"_s, u"title"_s); // in the very event of the end
     EXPECT_FALSE(documents.terminate([&] { isTerminated = true; }));
