@@ -44,7 +44,7 @@ QIcon iconOf(const HRFAlert &alert)
 } // namespace
 
 HRFAlertDialog::HRFAlertDialog(const HRFAlert &alert, QWidget *parent)
-    : QDialog(parent), m_alert(alert)
+    : QDialog(parent), m_alert(alert), m_answer(answerOfNobody(alert))
 {
     setObjectName(u"alert"_s);
     setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
@@ -62,6 +62,11 @@ std::optional<std::size_t> HRFAlertDialog::buttonForEscape(const HRFAlert &alert
             return std::size_t(found - alert.buttons.begin());
     }
     return alert.buttons.size() == 1 ? std::optional<std::size_t>(0) : std::nullopt;
+}
+
+HRFAlertAnswer HRFAlertDialog::answerOfNobody(const HRFAlert &alert)
+{
+    return {.button = buttonForEscape(alert).value_or(alert.buttons.size() - 1)};
 }
 
 void HRFAlertDialog::makeWidgets()

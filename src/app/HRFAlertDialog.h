@@ -16,9 +16,13 @@ class HRFAlertDialog : public QDialog
 public:
     HRFAlertDialog(const HRFAlert &alert, QWidget *parent);
 
+    /// That of the pressed button; answerOfNobody() until one is.
     const HRFAlertAnswer &answer() const { return m_answer; }
     /// The button that Escape presses; nothing when the question has to be answered.
     static std::optional<std::size_t> buttonForEscape(const HRFAlert &alert);
+
+    /// The answer that does least, for a question that goes without one.
+    static HRFAlertAnswer answerOfNobody(const HRFAlert &alert);
 
     void reject() override;
 

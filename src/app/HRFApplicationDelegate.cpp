@@ -70,6 +70,8 @@ void HRFApplicationDelegate::close(HRFListWindow &window)
 
 void HRFApplicationDelegate::quit()
 {
+    for (const auto &window : m_windows)
+        window->commit();
     m_documents.terminate([this] {
         for (const auto &window : m_windows)
             window->hide();

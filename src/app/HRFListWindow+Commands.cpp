@@ -64,7 +64,6 @@ void HRFListWindow::closeList()
 
 void HRFListWindow::quit()
 {
-    m_sidebar->commit();
     m_application.quit();
 }
 

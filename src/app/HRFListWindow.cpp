@@ -20,6 +20,7 @@
 #include "document/HRFPlaylist.h"
 #include "kit/HRFUserDefaults.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -246,9 +247,16 @@ void HRFListWindow::scrollToSelection()
     m_view->scrollToSelection();
 }
 
-void HRFListWindow::closeEvent(QCloseEvent *event)
+void HRFListWindow::commit() const
 {
     m_sidebar->commit();
+    if (m_view->isAncestorOf(QApplication::focusWidget()))
+        m_view->setFocus(); // the editor of a cell ends when it loses the focus
+}
+
+void HRFListWindow::closeEvent(QCloseEvent *event)
+{
+    commit();
     event->ignore(); // the window goes when its list does
     if (!hasAttachedSheet())
         m_application.close(*this);

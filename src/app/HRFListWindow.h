@@ -49,6 +49,9 @@ public:
     void scrollToSelection() override;
     void reloadArtworkPane() override;
 
+    /// Takes what has been typed and not confirmed.
+    void commit() const;
+
     // Commands:
     void newList();
     void addFiles();

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -46,10 +47,26 @@ HRFProgressDialog::HRFProgressDialog(std::shared_ptr<HRFProgress> progress,
     connect(m_cancel, &QPushButton::clicked, this, &HRFProgressDialog::reject);
     connect(&m_timer, &QTimer::timeout, this, &HRFProgressDialog::refresh);
     m_timer.start(betweenLooks);
-    m_appearing.setSingleShot(true);
-    connect(&m_appearing, &QTimer::timeout, this, &QWidget::show);
+    connect(&m_appearing, &QTimer::timeout, this, &HRFProgressDialog::appear);
     m_appearing.start(delay);
     refresh();
+}
+
+void HRFProgressDialog::appear()
+{
+    if (isQuestionBeside())
+        return;
+    m_appearing.stop();
+    show();
+}
+
+/// The later one of two sheets blocks the other, and the work may be waiting for the answer.
+bool HRFProgressDialog::isQuestionBeside() const
+{
+    return std::ranges::any_of(QApplication::topLevelWidgets(), [this](const QWidget *widget) {
+        return widget->isModal() && widget->isVisible() && widget->parentWidget() == parentWidget()
+            && !qobject_cast<const HRFProgressDialog *>(widget);
+    });
 }
 
 void HRFProgressDialog::refresh()

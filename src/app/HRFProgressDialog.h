@@ -10,7 +10,7 @@ class QProgressBar;
 class QPushButton;
 
 /// Shows how far some work is. It appears a moment after it was made, so that quick work does not
-/// flash. To close it is to cancel the work.
+/// flash, and not in front of a question. To close it is to cancel the work.
 class HRFProgressDialog : public QDialog
 {
     Q_OBJECT
@@ -21,6 +21,8 @@ public:
     void reject() override;
 
 private:
+    void appear();
+    bool isQuestionBeside() const;
     void refresh();
 
     const std::shared_ptr<HRFProgress> m_progress;

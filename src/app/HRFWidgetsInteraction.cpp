@@ -63,8 +63,7 @@ HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
     const QPointer dialog(new HRFAlertDialog(alert, windowForSheet()));
     dialog->exec();
     if (!dialog) // its window was closed
-        return {.button =
-                    HRFAlertDialog::buttonForEscape(alert).value_or(alert.buttons.size() - 1)};
+        return HRFAlertDialog::answerOfNobody(alert);
     const HRFAlertAnswer answer = dialog->answer();
     delete dialog;
     return answer;

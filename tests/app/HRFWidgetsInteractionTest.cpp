@@ -1,31 +1,25 @@
 #include "app/HRFWidgetsInteraction.h"
 
 #include "app/HRFInstance.h"
+#include "app/HRFTestDialogs.h"
 #include "operations/HRFProgress.h"
 #include "support/HRFTestApplication.h"
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDialog>
-#include <QPushButton>
 #include <QTimer>
 
 #include <thread>
 
 using namespace Qt::StringLiterals;
+using HRFTestDialogs::dialog;
+using HRFTestDialogs::press;
 
 namespace {
 
 class HRFWidgetsInteractionTest : public HRFTestWithApplication<QApplication>
 {
 protected:
-    static QDialog *dialog(const QString &name)
-    {
-        for (QWidget *widget : QApplication::topLevelWidgets())
-            if (widget->objectName() == name && widget->isVisible())
-                return qobject_cast<QDialog *>(widget);
-        return nullptr;
-    }
     /// Asks a question, and does something with the dialog when it is there.
     HRFAlertAnswer ask(const HRFAlert &alert, const std::function<void(QDialog &)> &act)
     {
@@ -35,13 +29,6 @@ protected:
             act(*shown);
         });
         return user.runAlert(alert);
-    }
-    static void press(QDialog &shown, const QString &title)
-    {
-        for (QPushButton *button : shown.findChildren<QPushButton *>())
-            if (button->text() == title)
-                return button->click();
-        ADD_FAILURE() << "no button " << title.toStdString();
     }
 
     HRFWidgetsInteraction user;
