@@ -70,6 +70,11 @@ void waitUntilIdle()
 
 } // namespace HRFBackground
 
+HRFBackgroundGroup::~HRFBackgroundGroup()
+{
+    HRFMainThread::waitUntil([this] { return m_running == 0; });
+}
+
 void HRFBackgroundGroup::waitUntilIdle()
 {
     HRFMainThread::serveUntil([this] { return m_running == 0; });

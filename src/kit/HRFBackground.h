@@ -14,14 +14,16 @@ void waitUntilIdle();
 
 } // namespace HRFBackground
 
-/// Background work of one owner.
+/// Background work of one owner, on whose end it is waited for. It must not wait for the main
+/// thread then: while an owner goes, no blocks are served, as they would come across what is left
+/// of it.
 class HRFBackgroundGroup
 {
 public:
     HRFBackgroundGroup() = default;
     HRFBackgroundGroup(const HRFBackgroundGroup &) = delete;
     HRFBackgroundGroup &operator=(const HRFBackgroundGroup &) = delete;
-    ~HRFBackgroundGroup() { waitUntilIdle(); }
+    ~HRFBackgroundGroup();
 
     void run(std::function<void()> block);
     /// On the main thread, which serves blocks meanwhile.

@@ -134,6 +134,13 @@ void serveUntil(const std::function<bool()> &condition)
     }
 }
 
+void waitUntil(const std::function<bool()> &condition)
+{
+    HRFRequire(isCurrent(), "HRFMainThread::isCurrent()");
+    std::unique_lock lock(inbox().mutex);
+    inbox().changed.wait(lock, condition);
+}
+
 void wakeUp()
 {
     Inbox &box = inbox();

@@ -24,7 +24,11 @@ void run(std::function<void()> block, Wait wait);
 /// no other events. Whoever makes the condition true must call wakeUp afterwards.
 void serveUntil(const std::function<bool()> &condition);
 
-/// Lets serveUntil look at its condition again.
+/// The same without serving anything. The condition is looked at under a lock, and so must not
+/// call anything here.
+void waitUntil(const std::function<bool()> &condition);
+
+/// Lets serveUntil and waitUntil look at their conditions again.
 void wakeUp();
 
 /// An object of the main thread that other threads may hold: it is destroyed on the main thread,
