@@ -7,6 +7,7 @@
 #include "app/HRFWidgetsInteraction.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFBackground.h"
+#include "kit/HRFInterruption.h"
 #include "kit/HRFUserDefaults.h"
 #include "store/HRFDataFolder.h"
 
@@ -14,6 +15,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QSocketNotifier>
 
 #include <cerrno>
 
@@ -60,6 +62,12 @@ int runWindows(const Options &options)
         return EXIT_FAILURE;
     }
     HRFApplicationDelegate application;
+    HRFInterruption::handleSignals(HRFInterruption::Again::EndsAtOnce);
+    QSocketNotifier interruption(HRFInterruption::descriptor(), QSocketNotifier::Read);
+    QObject::connect(&interruption, &QSocketNotifier::activated, &application, [&] {
+        interruption.setEnabled(false);
+        application.quit();
+    });
     const HRFInstance instance(path);
     QObject::connect(&instance, &HRFInstance::pathsDidArrive, &application,
                      &HRFApplicationDelegate::open);

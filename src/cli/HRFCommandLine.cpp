@@ -5,8 +5,8 @@
 #include "cli/HRFConsole.h"
 #include "cli/HRFConversionCommands.h"
 #include "cli/HRFFileCommands.h"
-#include "cli/HRFInterruption.h"
 #include "cli/HRFPlacementCommands.h"
+#include "kit/HRFInterruption.h"
 #include "kit/HRFUserDefaults.h"
 #include "tags/HRFMapManager.h"
 #include "tags/HRFTagKey.h"
@@ -238,6 +238,6 @@ int HRFRunCommandLine(int argc, char **argv)
         HRFConsole(options.isQuiet).report(problem);
         return HRFExitStatus::wrongUsage;
     }
-    HRFInterruption::handleSignals();
+    HRFInterruption::handleSignals(HRFInterruption::Again::AsksOnly);
     return chosen(options);
 }

@@ -1,9 +1,9 @@
 #include "cli/HRFListRun.h"
 
 #include "cli/HRFCommandLine.h"
-#include "cli/HRFInterruption.h"
 #include "document/HRFSortDescriptor.h"
 #include "kit/HRFBackground.h"
+#include "kit/HRFInterruption.h"
 #include "kit/HRFUserDefaults.h"
 #include "store/HRFAttributeManager.h"
 #include "store/HRFDataFolder.h"

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "cli/HRFConsole.h"
-#include "cli/HRFInterruption.h"
 #include "cli/HRFTerminalInteraction.h"
 #include "document/HRFDocumentController.h"
 #include "document/HRFPlaylist.h"
+#include "kit/HRFInterruption.h"
 
 #include <QEventLoop>
 #include <QHash>

@@ -1,7 +1,7 @@
 #include "cli/HRFTerminalInteraction.h"
 
 #include "cli/HRFConsole.h"
-#include "cli/HRFInterruption.h"
+#include "kit/HRFInterruption.h"
 #include "operations/HRFProgress.h"
 #include "tags/HRFTagEngine.h"
 

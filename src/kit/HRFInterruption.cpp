@@ -1,11 +1,11 @@
-#include "cli/HRFInterruption.h"
+#include "kit/HRFInterruption.h"
 
 #include <QtGlobal>
 
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <initializer_list>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -14,6 +14,7 @@ namespace HRFInterruption {
 namespace {
 
 std::atomic<bool> requested = false;
+constexpr std::array signals{SIGINT, SIGTERM, SIGHUP};
 static_assert(std::atomic<bool>::is_always_lock_free, "set in a signal handler");
 
 } // namespace
@@ -24,8 +25,10 @@ int descriptor()
     return theDescriptor;
 }
 
-void handleSignals()
+void handleSignals(Again again)
 {
+    static bool isOnlyOnce = false;
+    isOnlyOnce = again == Again::EndsAtOnce;
     static int wakeUpDescriptor = -1; // the handler must not initialise anything
     wakeUpDescriptor = descriptor();
     // Without SA_RESTART: a question that waits for an answer ends, too.
@@ -35,9 +38,12 @@ void handleSignals()
         const quint64 one = 1;
         const int reason = errno;
         static_cast<void>(::write(wakeUpDescriptor, &one, sizeof one) == sizeof one);
+        if (isOnlyOnce)
+            for (const int signal : signals)
+                ::signal(signal, SIG_DFL);
         errno = reason;
     };
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : signals)
         ::sigaction(signal, &action, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
 }

@@ -1,10 +1,13 @@
 #pragma once
 
-/// Lets a run of lirra-cli be interrupted between two files, never within one.
+/// Lets a program be ended from outside between two files, never within one.
 namespace HRFInterruption {
 
+/// What the second signal does.
+enum class Again { AsksOnly, EndsAtOnce };
+
 /// From now on SIGINT, SIGTERM and SIGHUP only ask for an end, and a closed pipe is a write error.
-void handleSignals();
+void handleSignals(Again again);
 /// Whether an end was asked for.
 bool isRequested();
 /// Can be read from then on.
