@@ -5,14 +5,17 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFileIconProvider>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeDatabase>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextEdit>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -33,12 +36,39 @@ QDialogButtonBox::ButtonRole roleOf(const HRFAlertButton &button)
 /// The one icon of its kind in an alert about a file; otherwise the program's own sign.
 QIcon iconOf(const HRFAlert &alert)
 {
-    if (!alert.icon.isNull() && !alert.isCritical) {
-        const QIcon icon = QFileIconProvider().icon(QFileInfo(alert.icon.displayPath()));
-        if (!icon.isNull())
-            return icon;
-    }
-    return HRFIcons::named(alert.isCritical ? u"warning"_s : u"question"_s);
+    if (alert.isCritical)
+        return HRFIcons::named(u"warning"_s);
+    if (alert.icon.isNull())
+        return HRFIcons::named(u"question"_s);
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(alert.icon.displayPath());
+    const QIcon icon = QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName()));
+    const bool isAudio = type.name().startsWith(u"audio/"_s);
+    return icon.isNull() ? HRFIcons::named(isAudio ? u"audio"_s : u"question"_s) : icon;
+}
+
+/// Text that can be copied. A name without spaces that does not fit into a line is broken anywhere.
+QTextEdit *makeText(const QString &text, QFont::Weight weight, QWidget *parent)
+{
+    constexpr int width = 380;
+    constexpr int highest = 220;
+    auto *made = new QTextEdit(parent);
+    made->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    made->setFocusPolicy(Qt::NoFocus);
+    made->setFrameShape(QFrame::NoFrame);
+    made->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    made->viewport()->setAutoFillBackground(false);
+    QPalette palette = made->palette();
+    palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+    made->setPalette(palette);
+    QFont font = made->font();
+    font.setWeight(weight);
+    made->setFont(font);
+    made->document()->setDocumentMargin(0);
+    made->setLineWrapMode(QTextEdit::FixedPixelWidth);
+    made->setLineWrapColumnOrWidth(width - made->verticalScrollBar()->sizeHint().width());
+    made->setPlainText(text);
+    made->setFixedSize(width, std::min(highest, int(std::ceil(made->document()->size().height()))));
+    return made;
 }
 
 } // namespace
@@ -94,25 +124,12 @@ QWidget *HRFAlertDialog::makeIcon()
 
 QWidget *HRFAlertDialog::makeTexts()
 {
-    constexpr int width = 380;
     auto *texts = new QWidget(this);
     auto *layout = new QVBoxLayout(texts);
     layout->setContentsMargins({});
-    const auto addText = [&](const QString &text, const QString &name, bool isBold) {
-        auto *label = new QLabel(text, texts);
-        label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        label->setMinimumWidth(width);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        QFont font = label->font();
-        font.setBold(isBold);
-        label->setFont(font);
-        layout->addWidget(label);
-    };
-    addText(m_alert.message, u"message"_s, true);
+    layout->addWidget(makeText(m_alert.message, QFont::Bold, texts));
     if (!m_alert.informativeText.isEmpty())
-        addText(m_alert.informativeText, u"informativeText"_s, false);
+        layout->addWidget(makeText(m_alert.informativeText, QFont::Normal, texts));
     if (!m_alert.suppressionTitle.isEmpty()) {
         m_suppression = new QCheckBox(m_alert.suppressionTitle, texts);
         m_suppression->setObjectName(u"suppression"_s);

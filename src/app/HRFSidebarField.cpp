@@ -78,11 +78,13 @@ protected:
     }
     void paintEvent(QPaintEvent *event) override
     {
-        constexpr int widthOfStars = 90;
+        constexpr int widthOfStars = 88;
         HRFStarsEditor::paintEvent(event);
         QPainter painter(this);
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(rect().adjusted(widthOfStars, 0, 0, 0), Qt::AlignVCenter, m_note);
+        const QRect place = rect().adjusted(widthOfStars, 0, 0, 0);
+        painter.drawText(place, Qt::AlignVCenter,
+                         fontMetrics().elidedText(m_note, Qt::ElideRight, place.width()));
         if (!hasFocus())
             return;
         QStyleOptionFocusRect focus;

@@ -58,6 +58,20 @@ TEST_F(HRFWidgetsInteractionTest, answersWithTheButtonThatIsPressed)
     EXPECT_EQ(escaped.button, 2U);
 }
 
+TEST_F(HRFWidgetsInteractionTest, fitsOnTheScreenWhateverItSays)
+{
+    const QString longName(250, u'W');
+    for (const QString &further : {QString(), QStringList(200, longName).join(u'\n')}) {
+        const HRFAlert alert{
+            .message = longName, .informativeText = further, .buttons = {{.title = u"OK"_s}}};
+        ask(alert, [](QDialog &shown) {
+            EXPECT_LT(shown.width(), 600);
+            EXPECT_LT(shown.height(), 600);
+            press(shown, u"OK"_s);
+        });
+    }
+}
+
 TEST_F(HRFWidgetsInteractionTest, carriesOutTheChosenRecovery)
 {
     int chosen = -1;
