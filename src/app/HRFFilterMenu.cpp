@@ -1,6 +1,7 @@
 #include "app/HRFFilterMenu.h"
 
 #include "app/HRFListColumn.h"
+#include "kit/HRFCollation.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -35,6 +36,7 @@ HRFFilterMenu::HRFFilterMenu(HRFListFilter &filter, int column, QWidget *parent)
     , m_filter(filter)
     , m_column(column)
     , m_values(filter.valuesOf(column))
+    , m_collator(HRFCollation::naturalOrder())
 {
     setObjectName(u"filterMenu"_s);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -101,13 +103,16 @@ void HRFFilterMenu::showFoundValues()
     const QScopedValueRollback isFilling(m_isFilling, true);
     m_found.clear();
     m_rows->clear();
-    for (const HRFListFilter::Value &value : m_values) {
-        if (!value.text.contains(m_search->text(), Qt::CaseInsensitive))
-            continue;
-        m_found.push_back(&value);
-        if (m_found.size() <= mostRows)
-            addRow(value);
-    }
+    for (const HRFListFilter::Value &value : m_values)
+        if (value.text.contains(m_search->text(), Qt::CaseInsensitive))
+            m_found.push_back(&value);
+    // To put those in order that nobody sees would take many times as long.
+    const auto end = m_found.begin() + std::ptrdiff_t(std::min(m_found.size(), mostRows));
+    std::partial_sort(m_found.begin(), end, m_found.end(),
+                      [this](const HRFListFilter::Value *left, const HRFListFilter::Value *right) {
+                          return m_collator.compare(left->text, right->text) < 0;
+                      });
+    std::for_each(m_found.begin(), end, [this](const auto *value) { addRow(*value); });
     m_rest->setText(tr("%1 of %2 values are shown").arg(m_rows->rowCount()).arg(m_found.size()));
     m_rest->setVisible(m_found.size() > mostRows);
     showStateOfAll();

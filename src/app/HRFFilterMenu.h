@@ -2,6 +2,7 @@
 
 #include "app/HRFListFilter.h"
 
+#include <QCollator>
 #include <QFrame>
 
 class QCheckBox;
@@ -34,8 +35,10 @@ private:
     HRFListFilter &m_filter;
     const int m_column;
     const std::vector<HRFListFilter::Value> m_values;
+    /// Those that the search finds: first the shown ones in their order, then the others.
     std::vector<const HRFListFilter::Value *> m_found;
     HRFListFilter::Texts m_allowed;
+    const QCollator m_collator;
     QLineEdit *m_search = nullptr;
     QCheckBox *m_all = nullptr;
     QStandardItemModel *m_rows = nullptr;

@@ -1,8 +1,8 @@
 #include "app/HRFListFilter.h"
 
 #include "app/HRFListColumn.h"
-#include "kit/HRFCollation.h"
-#include "store/HRFMainContext.h"
+#include "document/HRFPlaylist.h"
+#include "operations/HRFProgress.h"
 #include "store/HRFMetaFile.h"
 
 #include <algorithm>
@@ -16,50 +16,50 @@ const HRFListColumn &columnAt(int column)
 
 } // namespace
 
-HRFListFilter::HRFListFilter(HRFMainContext &context, HRFArrayController &controller,
-                             QObject *parent)
-    : QObject(parent), m_context(context), m_controller(controller)
+HRFListFilter::HRFListFilter(HRFPlaylist &list, QObject *parent)
+    : QObject(parent), m_list(list), m_controller(list.fileController())
 {
     constexpr std::chrono::milliseconds betweenKeys(40);
     m_timer.setSingleShot(true);
     m_timer.setInterval(betweenKeys);
     connect(&m_timer, &QTimer::timeout, this, &HRFListFilter::apply);
-    connect(&controller, &HRFArrayController::arrangementDidChange, this,
+    connect(&m_controller, &HRFArrayController::arrangementDidChange, this,
             &HRFListFilter::arrangementDidChange);
+    connect(&list.fileManager(), &HRFMetaFileManager::importDidEnd, this,
+            &HRFListFilter::importDidEnd);
 }
 
 void HRFListFilter::setWords(const QString &words)
 {
-    if (std::exchange(m_words, words) != words)
+    if (std::exchange(m_choice.words, words) != words)
         applySoon();
 }
 
 void HRFListFilter::setSearchedColumns(const std::vector<int> &columns)
 {
     m_searched = columns;
-    if (!m_words.isEmpty())
+    if (!m_choice.words.isEmpty())
         applySoon();
 }
 
 std::optional<HRFListFilter::Texts> HRFListFilter::allowedTexts(int column) const
 {
-    const auto found = m_allowed.constFind(column);
-    return found == m_allowed.constEnd() ? std::nullopt : std::optional(*found);
+    const auto found = m_choice.allowed.constFind(column);
+    return found == m_choice.allowed.constEnd() ? std::nullopt : std::optional(*found);
 }
 
 void HRFListFilter::setAllowedTexts(int column, const std::optional<Texts> &texts)
 {
     if (texts)
-        m_allowed.insert(column, *texts);
+        m_choice.allowed.insert(column, *texts);
     else
-        m_allowed.remove(column);
+        m_choice.allowed.remove(column);
     applySoon();
 }
 
 void HRFListFilter::clear()
 {
-    m_words.clear();
-    m_allowed.clear();
+    m_choice = {};
     applySoon();
 }
 
@@ -75,9 +75,9 @@ HRFRecordFilter HRFListFilter::makeFilter(int withoutColumn) const
     for (const int column : m_searched)
         if (const HRFAttributeDescription *attribute = columnAt(column).attribute())
             searched.push_back(attribute);
-    HRFRecordFilter hasWords = HRFRecordFilterForWords(m_words, searched);
+    HRFRecordFilter hasWords = HRFRecordFilterForWords(m_choice.words, searched);
     std::vector<std::pair<const HRFListColumn *, Texts>> allowed;
-    for (auto entry = m_allowed.begin(); entry != m_allowed.end(); ++entry)
+    for (auto entry = m_choice.allowed.begin(); entry != m_choice.allowed.end(); ++entry)
         if (entry.key() != withoutColumn)
             allowed.emplace_back(&columnAt(entry.key()), entry.value());
     if (allowed.empty())
@@ -102,25 +102,34 @@ void HRFListFilter::apply()
 void HRFListFilter::arrangementDidChange()
 {
     if (!m_controller.hasFilter() && !m_timer.isActive() && makeFilter()) {
-        m_words.clear();
-        m_allowed.clear();
+        m_takenAway = std::exchange(m_choice, {});
+        m_import = m_list.fileManager().importProgress();
         Q_EMIT didChange();
     }
+}
+
+/// An import that was cancelled leaves the list as it was, with its filter. A filter that was
+/// chosen meanwhile stays.
+void HRFListFilter::importDidEnd()
+{
+    const auto import = std::exchange(m_import, {});
+    Choice previous = std::exchange(m_takenAway, {});
+    if (!import || !import->isCancelled() || isActive())
+        return;
+    m_choice = std::move(previous);
+    apply();
+    Q_EMIT didChange();
 }
 
 std::vector<HRFListFilter::Value> HRFListFilter::valuesOf(int column) const
 {
     const HRFRecordFilter others = makeFilter(column);
     QHash<QString, int> counts;
-    for (const HRFMetaFile *file : m_context.fetch<HRFMetaFile>())
+    for (const HRFMetaFile *file : m_list.managedObjectContext().fetch<HRFMetaFile>())
         if (!others || others(*file))
             ++counts[columnAt(column).text(*file)];
     std::vector<Value> values;
     for (auto entry = counts.begin(); entry != counts.end(); ++entry)
         values.push_back({entry.key(), entry.value()});
-    const QCollator collator = HRFCollation::naturalOrder();
-    std::ranges::sort(values, [&](const Value &left, const Value &right) {
-        return collator.compare(left.text, right.text) < 0;
-    });
     return values;
 }

@@ -6,6 +6,11 @@
 #include <QSet>
 #include <QTimer>
 
+#include <memory>
+
+class HRFPlaylist;
+class HRFProgress;
+
 /// What the user has chosen to see of a list: files with certain words, and with certain values in
 /// certain columns.
 class HRFListFilter : public QObject
@@ -14,9 +19,9 @@ class HRFListFilter : public QObject
 public:
     using Texts = QSet<QString>;
 
-    HRFListFilter(HRFMainContext &context, HRFArrayController &controller, QObject *parent);
+    HRFListFilter(HRFPlaylist &list, QObject *parent);
 
-    const QString &words() const { return m_words; }
+    const QString &words() const { return m_choice.words; }
     void setWords(const QString &words);
     /// The columns that are searched for the words.
     void setSearchedColumns(const std::vector<int> &columns);
@@ -24,9 +29,9 @@ public:
     /// The values that are let through; nothing when all are.
     std::optional<Texts> allowedTexts(int column) const;
     void setAllowedTexts(int column, const std::optional<Texts> &texts);
-    QSet<int> filteredColumns() const { return {m_allowed.keyBegin(), m_allowed.keyEnd()}; }
+    QSet<int> filteredColumns() const { return {m_choice.allowed.keyBegin(), m_choice.allowed.keyEnd()}; }
 
-    bool isActive() const { return !m_words.isEmpty() || !m_allowed.isEmpty(); }
+    bool isActive() const { return m_choice.isActive(); }
     void clear();
 
     struct Value
@@ -34,8 +39,8 @@ public:
         QString text;
         int count = 0;
     };
-    /// The different values of a column in their order, among the files that the filters of words
-    /// and of the other columns let through.
+    /// The different values of a column in no order, among the files that the filters of words and
+    /// of the other columns let through.
     std::vector<Value> valuesOf(int column) const;
 
 Q_SIGNALS:
@@ -43,15 +48,26 @@ Q_SIGNALS:
     void didChange();
 
 private:
+    struct Choice
+    {
+        QString words;
+        QHash<int, Texts> allowed; ///< by column
+
+        bool isActive() const { return !words.isEmpty() || !allowed.isEmpty(); }
+    };
+
     HRFRecordFilter makeFilter(int withoutColumn = -1) const;
     void apply();
     void applySoon();
     void arrangementDidChange();
+    void importDidEnd();
 
-    HRFMainContext &m_context;
+    HRFPlaylist &m_list;
     HRFArrayController &m_controller;
-    QString m_words;
+    Choice m_choice;
     std::vector<int> m_searched;
-    QHash<int, Texts> m_allowed; ///< by column
+    /// What new files took away, and the running import that they came from.
+    Choice m_takenAway;
+    std::shared_ptr<HRFProgress> m_import; ///< nullptr when it was none
     QTimer m_timer;
 };

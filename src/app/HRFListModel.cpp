@@ -27,12 +27,12 @@ const HRFListColumn &columnAt(int section)
 }
 
 /// The file whose record an object belongs to.
-const HRFMetaFile *fileOf(const HRFManagedObject *object)
+HRFMetaFile *fileOf(HRFManagedObject *object)
 {
-    const HRFManagedObject *parent = object->entity().relationshipNamed(u"parentMetaFile"_s)
+    HRFManagedObject *parent = object->entity().relationshipNamed(u"parentMetaFile"_s)
         ? object->related(u"parentMetaFile"_s)
         : object;
-    return dynamic_cast<const HRFMetaFile *>(parent);
+    return dynamic_cast<HRFMetaFile *>(parent);
 }
 
 QVariant displayed(const HRFListColumn &column, const HRFMetaFile &file)
@@ -50,7 +50,6 @@ HRFListModel::HRFListModel(HRFPlaylist &list, HRFThumbnails &thumbnails)
             &HRFListModel::takeArrangement);
     connect(&list.managedObjectContext(), &HRFMainContext::objectsDidChange, this,
             &HRFListModel::contextDidChange);
-    connect(&thumbnails, &HRFThumbnails::thumbnailDidLoad, this, &HRFListModel::thumbnailDidLoad);
 }
 
 int HRFListModel::rowCount(const QModelIndex &parent) const
@@ -141,13 +140,23 @@ Qt::ItemFlags HRFListModel::flags(const QModelIndex &index) const
     return flags;
 }
 
+void HRFListModel::findRows() const
+{
+    if (!m_rowOf.isEmpty())
+        return;
+    m_rowOf.reserve(qsizetype(m_records.size()));
+    for (std::size_t row = 0; row < m_records.size(); ++row)
+        m_rowOf.insert(m_records[row], int(row));
+}
+
 std::vector<int> HRFListModel::rowsOf(const Records &records) const
 {
-    const std::unordered_set<const HRFMetaFile *> wanted(records.begin(), records.end());
+    findRows();
     std::vector<int> rows;
-    for (std::size_t row = 0; row < m_records.size() && rows.size() < wanted.size(); ++row)
-        if (wanted.contains(m_records[row]))
-            rows.push_back(int(row));
+    for (const HRFMetaFile *record : records)
+        if (const auto found = m_rowOf.constFind(record); found != m_rowOf.cend())
+            rows.push_back(*found);
+    std::ranges::sort(rows);
     return rows;
 }
 
@@ -161,6 +170,7 @@ void HRFListModel::takeArrangement()
         return removeRanges(*gone);
     beginResetModel();
     m_records = arranged;
+    m_rowOf.clear();
     endResetModel();
 }
 
@@ -170,6 +180,7 @@ void HRFListModel::insertRanges(const std::vector<HRFRowRange> &ranges, const Re
         beginInsertRows({}, range.first, range.last);
         m_records.insert(m_records.begin() + range.first, arranged.begin() + range.first,
                          arranged.begin() + range.last + 1);
+        m_rowOf.clear();
         endInsertRows();
     }
 }
@@ -179,30 +190,22 @@ void HRFListModel::removeRanges(const std::vector<HRFRowRange> &ranges)
     for (const HRFRowRange range : std::views::reverse(ranges)) {
         beginRemoveRows({}, range.first, range.last);
         m_records.erase(m_records.begin() + range.first, m_records.begin() + range.last + 1);
+        m_rowOf.clear();
         endRemoveRows();
     }
 }
 
 void HRFListModel::contextDidChange(const HRFContextChanges &changes)
 {
-    std::unordered_set<const HRFMetaFile *> changed;
+    if (changes.updated.empty())
+        return;
+    std::unordered_set<HRFMetaFile *> changed;
     for (const HRFObjectChange &change : changes.updated)
         changed.insert(fileOf(change.object));
-    if (changed.empty() || m_records.empty())
-        return;
-    std::vector<int> rows;
-    for (std::size_t row = 0; row < m_records.size(); ++row)
-        if (changed.contains(m_records[row]))
-            rows.push_back(int(row));
-    std::vector<HRFRowRange> ranges = HRFRangesOfRows(rows);
+    std::vector<HRFRowRange> ranges = HRFRangesOfRows(rowsOf({changed.begin(), changed.end()}));
     if (ranges.size() > mostRanges)
         ranges = {{ranges.front().first, ranges.back().last}};
     for (const HRFRowRange range : ranges)
         Q_EMIT dataChanged(index(range.first, 0), index(range.last, columnCount() - 1));
 }
 
-void HRFListModel::thumbnailDidLoad(const QString & /*digest*/)
-{
-    if (!m_records.empty())
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0));
-}

@@ -4,6 +4,7 @@
 #include "document/HRFArrayController.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 
 class HRFPlaylist;
 class HRFThumbnails;
@@ -40,11 +41,13 @@ private:
                       const HRFArrayController::Records &arranged);
     void removeRanges(const std::vector<HRFRowRange> &ranges);
     void contextDidChange(const HRFContextChanges &changes);
-    void thumbnailDidLoad(const QString &digest);
     QVariant thumbnailAt(int row) const;
+    void findRows() const;
 
     HRFPlaylist &m_list;
     HRFThumbnails &m_thumbnails;
     HRFArrayController::Records m_records;
+    /// The row of each record; empty until it is asked for after a new arrangement.
+    mutable QHash<const HRFMetaFile *, int> m_rowOf;
     bool m_isChangingRows = false;
 };

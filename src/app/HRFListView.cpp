@@ -6,6 +6,8 @@
 #include "app/HRFListColumn.h"
 #include "app/HRFListHeader.h"
 #include "app/HRFListModel.h"
+#include "app/HRFThumbnails.h"
+#include "kit/HRFFileReferenceTable.h"
 #include "kit/HRFUserDefaults.h"
 #include "store/HRFMetaFile.h"
 
@@ -14,6 +16,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -30,8 +33,9 @@ constexpr int usualStep = 0;
 
 } // namespace
 
-HRFListView::HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *parent)
-    : QTableView(parent), m_model(model)
+HRFListView::HRFListView(HRFListModel &model, HRFThumbnails &thumbnails, HRFListHeader *header,
+                         QWidget *parent)
+    : QTableView(parent), m_model(model), m_thumbnails(thumbnails)
 {
     setObjectName(u"listView"_s);
     setAccessibleName(tr("Files"));
@@ -62,6 +66,7 @@ HRFListView::HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *pa
                 if (key == heightKey)
                     rowHeightDidChange();
             });
+    connect(&thumbnails, &HRFThumbnails::thumbnailsDidChange, this, &HRFListView::updateThumbnails);
     restoreRowHeight();
 }
 
@@ -144,19 +149,36 @@ QModelIndex HRFListView::moveCursor(CursorAction action, Qt::KeyboardModifiers m
     return m_model.index(row, std::max(currentIndex().column(), 0));
 }
 
-/// The selected files, to be copied by whoever takes them.
+/// The selected files, to be copied by whoever takes them. To look all of them up on the disk would
+/// hold the pointer up.
 void HRFListView::startDrag(Qt::DropActions /*actions*/)
 {
     std::vector<HRFFileReference> files;
     for (const QItemSelectionRange &range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row)
-            if (const auto file = m_model.recordAt(row).url())
+            if (const auto file =
+                    HRFFileReferenceTable::lastKnownFileForURL(m_model.recordAt(row).fileURL()))
                 files.push_back(*file);
     }
     auto *drag = new QDrag(this);
     drag->setMimeData(HRFFileURIs::mimeData(files).release());
     drag->setPixmap(HRFIcons::named(u"audio"_s).pixmap(32));
     drag->exec(Qt::CopyAction);
+}
+
+/// Rows and pixels of the screen make the size; both may have changed since the last time.
+void HRFListView::paintEvent(QPaintEvent *event)
+{
+    m_thumbnails.setSize(qCeil(rowHeight() * devicePixelRatioF()));
+    QTableView::paintEvent(event);
+}
+
+/// Those in view: the others are drawn when they come into it.
+void HRFListView::updateThumbnails()
+{
+    const int column = HRFListColumns::indexOf(u"artwork"_s);
+    viewport()->update(columnViewportPosition(column), 0, columnWidth(column),
+                       viewport()->height());
 }
 
 /// Tab leads to the next cell that can be edited.

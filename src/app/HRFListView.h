@@ -4,13 +4,15 @@
 
 class HRFListHeader;
 class HRFListModel;
+class HRFThumbnails;
 
 /// The table of a list.
 class HRFListView : public QTableView
 {
     Q_OBJECT
 public:
-    HRFListView(HRFListModel &model, HRFListHeader *header, QWidget *parent);
+    HRFListView(HRFListModel &model, HRFThumbnails &thumbnails, HRFListHeader *header,
+                QWidget *parent);
 
     int rowHeight() const;
     /// Makes the rows, and the thumbnails in them, higher or lower by some steps; 0 brings the
@@ -27,13 +29,16 @@ protected:
     void startDrag(Qt::DropActions actions) override;
     void keyPressEvent(QKeyEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void editNext(int step);
+    void updateThumbnails();
     void restoreRowHeight();
     void rowHeightDidChange();
     void setRowHeightStep(int step);
 
     HRFListModel &m_model;
+    HRFThumbnails &m_thumbnails;
     int m_step = 0; ///< in the table of heights
 };

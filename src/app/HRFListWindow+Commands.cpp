@@ -10,6 +10,9 @@
 #include "app/HRFSidebar.h"
 #include "app/HRFSidebarSplitter.h"
 #include "document/HRFPlaylist.h"
+#include "kit/HRFBackground.h"
+#include "kit/HRFFileReferenceTable.h"
+#include "kit/HRFMainThread.h"
 #include "kit/HRFUserInteraction.h"
 #include "store/HRFMetaFile.h"
 
@@ -43,18 +46,20 @@ void HRFListWindow::addFolder()
     panel->open();
 }
 
-std::vector<HRFFileReference> HRFListWindow::selectedPaths() const
-{
-    std::vector<HRFFileReference> paths;
-    for (const HRFMetaFile *file : m_list.selectedFiles())
-        if (const auto path = file->url())
-            paths.push_back(*path);
-    return paths;
-}
-
+/// Looks up on another thread where the files are: each of them is a question to the disk.
 void HRFListWindow::reveal()
 {
-    HRFUserInteraction::current().revealFiles(selectedPaths());
+    QStringList urls;
+    for (const HRFMetaFile *file : m_list.fileController().selectedObjects())
+        urls.append(file->fileURL());
+    HRFBackground::run([urls] {
+        std::vector<HRFFileReference> files;
+        for (const QString &url : urls)
+            if (const auto file = HRFFileReferenceTable::fileForURL(url))
+                files.push_back(*file);
+        HRFMainThread::run([files] { HRFUserInteraction::current().revealFiles(files); },
+                           HRFMainThread::Wait::No);
+    });
 }
 
 void HRFListWindow::closeList()
@@ -77,13 +82,17 @@ void HRFListWindow::redo()
     m_list.redo();
 }
 
-/// As text for people, and as files for file managers.
+/// As text for people, and as files for file managers. The paths are those that the list shows.
 void HRFListWindow::copyPath()
 {
-    const std::vector<HRFFileReference> paths = selectedPaths();
+    std::vector<HRFFileReference> paths;
     QStringList texts;
-    for (const HRFFileReference &path : paths)
-        texts.append(path.displayPath());
+    for (const HRFMetaFile *file : m_list.fileController().selectedObjects()) {
+        if (const auto path = HRFFileReferenceTable::lastKnownFileForURL(file->fileURL())) {
+            paths.push_back(*path);
+            texts.append(path->displayPath());
+        }
+    }
     auto copied = HRFFileURIs::mimeData(paths);
     copied->setText(texts.join(u'\n'));
     QGuiApplication::clipboard()->setMimeData(copied.release());
@@ -180,6 +189,7 @@ void HRFListWindow::configureSidebar()
 void HRFListWindow::reloadArtworkPane()
 {
     m_sidebar->artworkPane().reload();
+    m_thumbnails.forgetFailures();
 }
 
 void HRFListWindow::toggleFullScreen()

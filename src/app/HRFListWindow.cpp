@@ -69,14 +69,14 @@ HRFListWindow::~HRFListWindow() = default;
 void HRFListWindow::makeTable()
 {
     m_header = new HRFListHeader(m_list.fileController(), this);
-    m_view = new HRFListView(*m_model, m_header, this);
+    m_view = new HRFListView(*m_model, m_thumbnails, m_header, this);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_sidebar = new HRFSidebar(m_list, this);
     m_splitter = new HRFSidebarSplitter(*m_view, *m_sidebar, this);
     setCentralWidget(m_splitter);
     m_selectionLink = std::make_unique<HRFSelectionLink>(m_list.fileController(), *m_model,
                                                          *m_view->selectionModel());
-    m_filter = new HRFListFilter(m_list.managedObjectContext(), m_list.fileController(), this);
+    m_filter = new HRFListFilter(m_list, this);
     m_filter->setSearchedColumns(m_header->shownColumns());
     m_hint = new HRFEmptyListHint(*m_view);
 }

@@ -2,7 +2,6 @@
 
 #include "app/HRFThumbnails.h"
 #include "document/HRFPlaylistWindow.h"
-#include "kit/HRFFileReference.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -115,7 +114,6 @@ private:
     void addURLs(const QList<QUrl> &urls);
     void rememberGeometry() const;
     void validateSoon() { m_validation.start(); }
-    std::vector<HRFFileReference> selectedPaths() const;
 
     HRFPlaylist &m_list;
     HRFApplicationDelegate &m_application;

@@ -6,14 +6,33 @@
 
 #include <QLocale>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
+const HRFListColumn &columnNamed(const QString &name)
+{
+    return HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))];
+}
+
+const QString sizeName = u"fileSize"_s;
+const QString durationName = u"duration"_s;
+
+bool affects(const HRFContextChanges &changes, const QString &name)
+{
+    const HRFAttributeDescription &attribute = *columnNamed(name).attribute();
+    return std::ranges::any_of(changes.updated, [&](const HRFObjectChange &change) {
+        return change.properties & HRFPropertyBit(attribute.index)
+            && change.object->entity().name == attribute.entity->name;
+    });
+}
+
 /// The sum of an attribute, as its values are shown.
 QString sumOf(const QString &name, const HRFArrayController::Records &records)
 {
-    const HRFListColumn &column = HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))];
+    const HRFListColumn &column = columnNamed(name);
     qlonglong sum = 0;
     for (const HRFMetaFile *record : records)
         sum += column.value(*record).toLongLong();
@@ -32,14 +51,23 @@ HRFStatusLine::HRFStatusLine(HRFPlaylist &list, QWidget *parent) : QLabel(parent
     m_timer.setSingleShot(true);
     m_timer.setInterval(rest);
     connect(&m_timer, &QTimer::timeout, this, &HRFStatusLine::refresh);
-    // A timer that runs is left to run: then the line follows even what never rests.
-    const auto wait = [this] {
-        if (!m_timer.isActive())
-            m_timer.start();
-    };
-    connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this, wait);
-    connect(&list.fileController(), &HRFArrayController::selectionDidChange, this, wait);
+    connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this,
+            &HRFStatusLine::refreshSoon);
+    connect(&list.fileController(), &HRFArrayController::selectionDidChange, this,
+            &HRFStatusLine::refreshSoon);
+    connect(&list.managedObjectContext(), &HRFMainContext::objectsDidChange, this,
+            [this](const HRFContextChanges &changes) {
+                if (affects(changes, sizeName) || affects(changes, durationName))
+                    refreshSoon();
+            });
     refresh();
+}
+
+/// A timer that runs is left to run: then the line follows even what never rests.
+void HRFStatusLine::refreshSoon()
+{
+    if (!m_timer.isActive())
+        m_timer.start();
 }
 
 void HRFStatusLine::refresh()
@@ -58,8 +86,8 @@ void HRFStatusLine::refresh()
     QStringList parts{
         isPart ? tr("%1 of %2 selected").arg(locale.toString(qulonglong(selected.size())), count)
                : count,
-        sumOf(u"fileSize"_s, summed)};
-    if (const QString duration = sumOf(u"duration"_s, summed); !duration.isEmpty())
+        sumOf(sizeName, summed)};
+    if (const QString duration = sumOf(durationName, summed); !duration.isEmpty())
         parts.append(duration);
     setText(parts.join(u"  ·  "_s));
 }

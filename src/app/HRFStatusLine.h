@@ -14,6 +14,7 @@ public:
     HRFStatusLine(HRFPlaylist &list, QWidget *parent);
 
 private:
+    void refreshSoon();
     void refresh();
 
     HRFPlaylist &m_list;

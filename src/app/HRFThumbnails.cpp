@@ -10,6 +10,8 @@ constexpr int threadCount = 2;
 constexpr qsizetype cacheBytes = 48LL << 20;
 /// More are not looked at by anybody: the user has scrolled past.
 constexpr std::size_t mostWaiting = 200;
+/// Many more than are in view at a time: each file in view is tried once.
+constexpr qsizetype mostFailures = 2000;
 
 } // namespace
 
@@ -20,18 +22,30 @@ QPixmap HRFThumbnails::thumbnail(const QString &digest, const QString &fileURL)
     HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     if (digest.isEmpty())
         return {};
-    if (const QPixmap *present = m_cache.object(digest))
-        return *present;
-    if (!m_requested.contains(digest)) {
-        m_requested.insert(digest);
-        m_waiting.push_front({digest, fileURL});
-        if (m_waiting.size() > mostWaiting) {
-            m_requested.remove(m_waiting.back().digest);
-            m_waiting.pop_back();
-        }
-        startLoading();
+    const Thumbnail *present = m_cache.object(digest);
+    const bool isLargeEnough = present && present->size >= m_size;
+    if (!isLargeEnough && !m_requested.contains(digest) && !m_failures.contains({digest, fileURL}))
+        request({digest, fileURL});
+    return present ? present->image : QPixmap();
+}
+
+void HRFThumbnails::forgetFailures()
+{
+    if (m_failures.isEmpty())
+        return;
+    m_failures.clear();
+    Q_EMIT thumbnailsDidChange();
+}
+
+void HRFThumbnails::request(const Request &request)
+{
+    m_requested.insert(request.digest);
+    m_waiting.push_front(request);
+    if (m_waiting.size() > mostWaiting) {
+        m_requested.remove(m_waiting.back().digest);
+        m_waiting.pop_back();
     }
-    return {};
+    startLoading();
 }
 
 void HRFThumbnails::startLoading()
@@ -40,28 +54,34 @@ void HRFThumbnails::startLoading()
         const Request next = std::move(m_waiting.front());
         m_waiting.pop_front();
         ++m_running;
-        m_reading.run([reference = m_weakSelf.reference(), next] {
+        m_reading.run([reference = m_weakSelf.reference(), next, size = m_size] {
             QImage image;
             HRFMainThread::runLoggingFailures([&] {
                 image = HRFPicture::scaled(HRFPicture::inFile(next.fileURL), {size, size});
             });
             HRFMainThread::run(
-                [reference, digest = next.digest, image = std::move(image)] {
+                [reference, next, size, image = std::move(image)] {
                     if (HRFThumbnails *self = reference.get())
-                        self->take(digest, image);
+                        self->take(next, size, image);
                 },
                 HRFMainThread::Wait::No);
         });
     }
 }
 
-void HRFThumbnails::take(const QString &digest, const QImage &image)
+void HRFThumbnails::take(const Request &request, int size, const QImage &image)
 {
     --m_running;
-    m_requested.remove(digest);
-    constexpr qsizetype costOfNothing = 1;
-    m_cache.insert(digest, new QPixmap(QPixmap::fromImage(image)),
-                   std::max(costOfNothing, image.sizeInBytes()));
+    m_requested.remove(request.digest);
+    if (image.isNull()) {
+        if (m_failures.size() >= mostFailures)
+            m_failures.clear();
+        m_failures.insert({request.digest, request.fileURL});
+    } else {
+        const QPixmap pixmap = QPixmap::fromImage(image);
+        const qsizetype bytes = qsizetype(pixmap.width()) * pixmap.height() * pixmap.depth() / 8;
+        m_cache.insert(request.digest, new Thumbnail{pixmap, size}, std::max<qsizetype>(bytes, 1));
+    }
     startLoading();
-    Q_EMIT thumbnailDidLoad(digest);
+    Q_EMIT thumbnailsDidChange();
 }

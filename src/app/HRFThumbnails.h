@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <deque>
+#include <utility>
 
 /// Small pictures of files, read from the files by other threads and kept as long as there is room.
 /// For the main thread.
@@ -16,29 +17,41 @@ class HRFThumbnails : public QObject
 {
     Q_OBJECT
 public:
-    /// The longer side of a thumbnail, in pixels.
-    static constexpr int size = 128;
-
     HRFThumbnails();
 
+    /// The longer side of thumbnails, in pixels. Those that were read for a shorter one are read
+    /// anew when they are asked for, and serve until then.
+    void setSize(int size) { m_size = size; }
+
     /// The picture with a digest; null when there is none, or not yet: then it is read from the
-    /// file with the URL.
+    /// file with the URL. When it cannot be read there, another file with the same picture may do.
     QPixmap thumbnail(const QString &digest, const QString &fileURL);
+    /// Lets files be tried again whose pictures could not be read.
+    void forgetFailures();
 
 Q_SIGNALS:
-    void thumbnailDidLoad(const QString &digest);
+    /// Some picture looks different now, or is worth to be asked for again.
+    void thumbnailsDidChange();
 
 private:
+    struct Thumbnail
+    {
+        QPixmap image;
+        int size; ///< that it was read for; the picture itself may be smaller
+    };
     struct Request
     {
         QString digest;
         QString fileURL;
     };
 
+    void request(const Request &request);
     void startLoading();
-    void take(const QString &digest, const QImage &image);
+    void take(const Request &request, int size, const QImage &image);
 
-    QCache<QString, QPixmap> m_cache; ///< by digest; null for pictures that cannot be read
+    int m_size = 64;
+    QCache<QString, Thumbnail> m_cache; ///< by digest
+    QSet<std::pair<QString, QString>> m_failures; ///< digests, and files where they were in vain
     /// The latest come first, for they are what the user looks at.
     std::deque<Request> m_waiting;
     QSet<QString> m_requested; ///< waiting or being read

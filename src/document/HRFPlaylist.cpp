@@ -204,9 +204,9 @@ bool HRFPlaylist::validateUserInterfaceItem(const QString &command) const
         return false;
     switch (row->needs) {
     case Needs::ShownRecords:
-        return !arrangedFiles().empty();
+        return !m_fileController->arrangedObjects().empty();
     case Needs::Selection:
-        return !selectedFiles().empty();
+        return !m_fileController->selectedObjects().empty();
     default:
         return true;
     }
