@@ -1,10 +1,13 @@
 #include "app/HRFFilterMenu.h"
 #include "app/HRFTestWithWindow.h"
 #include "support/HRFHeldQueue.h"
+#include "operations/HRFProgress.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
+#include <QClipboard>
 #include <QImage>
+#include <QLabel>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -14,6 +17,16 @@ using testing::ElementsAre;
 namespace {
 
 using HRFListWindowTest = HRFTestWithWindow;
+
+QByteArray redPicture()
+{
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    QImage image(600, 300, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    EXPECT_TRUE(image.save(&buffer, "PNG"));
+    return picture;
+}
 
 TEST_F(HRFListWindowTest, editsADroppedFileAndTakesItBack)
 {
@@ -170,12 +183,7 @@ TEST_F(HRFListWindowTest, stripsAfterAQuestion)
 
 TEST_F(HRFListWindowTest, loadsThumbnails)
 {
-    QByteArray picture;
-    QBuffer buffer(&picture);
-    QImage image(600, 300, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    ASSERT_TRUE(image.save(&buffer, "PNG"));
-    makeFile(u"a.mp3"_s, {{HRFTagKey::artwork, picture}});
+    makeFile(u"a.mp3"_s, {{HRFTagKey::artwork, redPicture()}});
     makeFile(u"b.mp3"_s, {{HRFTagKey::artwork, HRFSamplePNG}}); // cannot be decoded
     dropFolder(2);
     const auto thumbnail = [&](int row) {
@@ -183,9 +191,110 @@ TEST_F(HRFListWindowTest, loadsThumbnails)
     };
     EXPECT_TRUE(thumbnail(1).isNull());
     waitUntil([&] { return !thumbnail(0).isNull(); });
-    EXPECT_EQ(thumbnail(0).size(), QSize(HRFThumbnails::size, HRFThumbnails::size / 2));
     EXPECT_EQ(thumbnail(0).toImage().pixelColor(5, 5), QColor(Qt::red));
     EXPECT_TRUE(thumbnail(1).isNull());
+    for (int steps : {0, 1}) {
+        if (steps > 0)
+            window->commands().action(u"higherRows"_s)->trigger();
+        const int height = window->view().rowHeight();
+        waitUntil([&] { return thumbnail(0).width() == height; });
+        EXPECT_EQ(thumbnail(0).height(), height / 2);
+    }
+}
+
+TEST_F(HRFListWindowTest, triesOtherFilesForAThumbnail)
+{
+    makeFile(u"good.mp3"_s, {{HRFTagKey::artwork, redPicture()}});
+    const QString good = QUrl::fromLocalFile(path(u"music/good.mp3"_s)).toString();
+    const QString late = QUrl::fromLocalFile(path(u"music/late.mp3"_s)).toString();
+    HRFThumbnails thumbnails;
+    int changes = 0;
+    QObject::connect(&thumbnails, &HRFThumbnails::thumbnailsDidChange, [&] { ++changes; });
+    EXPECT_TRUE(thumbnails.thumbnail(u"1"_s, late).isNull());
+    EXPECT_TRUE(thumbnails.thumbnail(u"2"_s, late).isNull());
+    waitUntil([&] { return changes == 2; });
+    makeFile(u"late.mp3"_s, {{HRFTagKey::artwork, redPicture()}});
+    EXPECT_TRUE(thumbnails.thumbnail(u"1"_s, late).isNull()); // it is not tried at each turn
+    EXPECT_TRUE(thumbnails.thumbnail(u"2"_s, good).isNull());
+    waitUntil([&] { return changes == 3; });
+    EXPECT_FALSE(thumbnails.thumbnail(u"2"_s, late).isNull());
+    EXPECT_TRUE(thumbnails.thumbnail(u"1"_s, late).isNull());
+    thumbnails.forgetFailures();
+    EXPECT_TRUE(thumbnails.thumbnail(u"1"_s, late).isNull());
+    waitUntil([&] { return !thumbnails.thumbnail(u"1"_s, late).isNull(); });
+}
+
+TEST_F(HRFListWindowTest, copiesKnownPathsAndRevealsPresentFiles)
+{
+    makeFiles();
+    dropFolder(3);
+    window->view().selectAll();
+    ASSERT_TRUE(QFile::remove(path(u"music/b.mp3"_s)));
+    window->commands().action(u"copyPath"_s)->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().split(u'\n').size(), 3);
+    window->commands().action(u"reveal"_s)->trigger();
+    waitUntil([&] { return !user.revealedFiles.empty(); });
+    EXPECT_THAT(user.revealedFiles,
+                testing::UnorderedElementsAre(music(u"a.mp3"_s), music(u"c.mp3"_s)));
+}
+
+/// Only what has changed is drawn anew, also when rows have come before it.
+TEST_F(HRFListWindowTest, followsWrites)
+{
+    makeFiles();
+    dropFolder(3);
+    sortBy(u"fileName"_s);
+    window->view().selectRow(2);
+    makeFile(u"0.mp3"_s, {});
+    dropFolder(4);
+    std::vector<int> rows;
+    QObject::connect(&window->model(), &HRFListModel::dataChanged,
+                     [&](const QModelIndex &from, const QModelIndex &to) {
+                         rows.insert(rows.end(), {from.row(), to.row()});
+                     });
+    const auto *line = window->findChild<QLabel *>(u"statusLine"_s);
+    window->view().selectAll();
+    waitUntil([&] { return line->text().startsWith(u"4 files"_s); });
+    const QString before = line->text();
+    constexpr int moreThanPadding = 50000;
+    window->model().setData(cell(3, u"title"_s), QString(moreThanPadding, u'x'), Qt::EditRole);
+    waitUntil([&] { return line->text() != before; });
+    EXPECT_THAT(rows, testing::AllOf(testing::Not(testing::IsEmpty()), testing::Each(3)));
+    waitForWork();
+}
+
+TEST_F(HRFListWindowTest, bringsTheFilterBackWhenAnImportIsCancelled)
+{
+    makeFiles();
+    dropFolder(3);
+    constexpr int count = 310; // an import shows its files by 300
+    for (int i = 1; i <= count; ++i)
+        ASSERT_TRUE(QFile::copy(path(u"music/a.mp3"_s), path(u"music/%1.mp3"_s.arg(i))));
+    QTest::keyClicks(&window->filterField(), u"one"_s);
+    waitUntil([&] { return window->model().rowCount() == 1; });
+    HRFPlaylist &list = window->document();
+    int ends = 0;
+    QObject::connect(&list.fileManager(), &HRFMetaFileManager::importDidEnd, [&] { ++ends; });
+    const auto cancelling = QObject::connect(
+        &list.fileController(), &HRFArrayController::arrangementDidChange, [&] {
+            EXPECT_FALSE(window->hasFilter());
+            if (const auto progress = list.fileManager().importProgress())
+                progress->cancel();
+        });
+    drop({music(QString())});
+    waitUntil([&] { return list.arrangedFiles().size() > 3; });
+    QObject::disconnect(cancelling);
+    waitUntil([&] { return ends > 0; });
+    EXPECT_EQ(window->filterField().text(), u"one"_s);
+    EXPECT_THAT(texts(u"title"_s), ElementsAre(u"One"_s));
+
+    dropFolder(count + 3); // this time it is not brought back
+    EXPECT_FALSE(window->hasFilter());
+    window->header().requestFilter(column(u"fileName"_s));
+    const auto *values = window->findChild<QAbstractItemView *>(u"filterValues"_s)->model();
+    ASSERT_EQ(values->rowCount(), 300);
+    for (int row = 0; row < values->rowCount(); ++row)
+        EXPECT_EQ(values->index(row, 0).data(), u"%1.mp3   (1)"_s.arg(row + 1));
 }
 
 TEST_F(HRFListWindowTest, closesListsAndEndsWithTheLast)
