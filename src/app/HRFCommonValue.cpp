@@ -6,13 +6,12 @@
 
 namespace {
 
-bool haveSame(const HRFListColumn &column, const HRFMetaFile &one, const HRFMetaFile &other)
+bool has(const HRFMetaFile &file, const HRFListColumn &column, const QVariant &value)
 {
-    const QVariant value = column.value(one);
-    const QVariant otherValue = column.value(other);
+    const QVariant present = column.value(file);
     // An empty box says the same, whether the file has a "no" or nothing.
-    return column.kind == HRFListColumnKind::CheckBox ? value.toBool() == otherValue.toBool()
-                                                      : value == otherValue;
+    return column.kind == HRFListColumnKind::CheckBox ? present.toBool() == value.toBool()
+                                                      : present == value;
 }
 
 } // namespace
@@ -24,8 +23,9 @@ HRFCommonValue HRFCommonValue::of(const HRFListColumn &column,
     if (records.empty())
         return common;
     const HRFMetaFile &first = *records.front();
+    const QVariant value = column.value(first);
     common.isSame = std::ranges::all_of(
-        records, [&](const HRFMetaFile *other) { return haveSame(column, first, *other); });
+        records, [&](const HRFMetaFile *file) { return has(*file, column, value); });
     if (common.isSame) {
         common.value = column.editedValue(first);
         common.text = column.text(first);

@@ -125,7 +125,9 @@ std::vector<HRFListFilter::Value> HRFListFilter::valuesOf(int column) const
 {
     const HRFRecordFilter others = makeFilter(column);
     QHash<QString, int> counts;
-    for (const HRFMetaFile *file : m_list.managedObjectContext().fetch<HRFMetaFile>())
+    const auto files = m_list.managedObjectContext().fetch<HRFMetaFile>();
+    counts.reserve(qsizetype(files.size()));
+    for (const HRFMetaFile *file : files)
         if (!others || others(*file))
             ++counts[columnAt(column).text(*file)];
     std::vector<Value> values;

@@ -29,7 +29,10 @@ public:
     /// The values that are let through; nothing when all are.
     std::optional<Texts> allowedTexts(int column) const;
     void setAllowedTexts(int column, const std::optional<Texts> &texts);
-    QSet<int> filteredColumns() const { return {m_choice.allowed.keyBegin(), m_choice.allowed.keyEnd()}; }
+    QSet<int> filteredColumns() const
+    {
+        return {m_choice.allowed.keyBegin(), m_choice.allowed.keyEnd()};
+    }
 
     bool isActive() const { return m_choice.isActive(); }
     void clear();

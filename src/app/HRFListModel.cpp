@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <ranges>
-#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 using Kind = HRFListColumnKind;
@@ -29,10 +28,8 @@ const HRFListColumn &columnAt(int section)
 /// The file whose record an object belongs to.
 HRFMetaFile *fileOf(HRFManagedObject *object)
 {
-    HRFManagedObject *parent = object->entity().relationshipNamed(u"parentMetaFile"_s)
-        ? object->related(u"parentMetaFile"_s)
-        : object;
-    return dynamic_cast<HRFMetaFile *>(parent);
+    const auto *toFile = object->entity().relationshipNamed(u"parentMetaFile"_s);
+    return dynamic_cast<HRFMetaFile *>(toFile ? object->related(toFile->index) : object);
 }
 
 QVariant displayed(const HRFListColumn &column, const HRFMetaFile &file)
@@ -157,6 +154,8 @@ std::vector<int> HRFListModel::rowsOf(const Records &records) const
         if (const auto found = m_rowOf.constFind(record); found != m_rowOf.cend())
             rows.push_back(*found);
     std::ranges::sort(rows);
+    const auto repeated = std::ranges::unique(rows);
+    rows.erase(repeated.begin(), repeated.end());
     return rows;
 }
 
@@ -199,13 +198,12 @@ void HRFListModel::contextDidChange(const HRFContextChanges &changes)
 {
     if (changes.updated.empty())
         return;
-    std::unordered_set<HRFMetaFile *> changed;
+    Records changed;
     for (const HRFObjectChange &change : changes.updated)
-        changed.insert(fileOf(change.object));
-    std::vector<HRFRowRange> ranges = HRFRangesOfRows(rowsOf({changed.begin(), changed.end()}));
+        changed.push_back(fileOf(change.object));
+    std::vector<HRFRowRange> ranges = HRFRangesOfRows(rowsOf(changed));
     if (ranges.size() > mostRanges)
         ranges = {{ranges.front().first, ranges.back().last}};
     for (const HRFRowRange range : ranges)
         Q_EMIT dataChanged(index(range.first, 0), index(range.last, columnCount() - 1));
 }
-

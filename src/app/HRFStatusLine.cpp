@@ -17,6 +17,10 @@ const HRFListColumn &columnNamed(const QString &name)
     return HRFListColumns::all()[std::size_t(HRFListColumns::indexOf(name))];
 }
 
+constexpr std::chrono::milliseconds restOfUser(80);
+/// Many files are written one after the other, and each sum takes its time.
+constexpr std::chrono::milliseconds restOfWrites(600);
+
 const QString sizeName = u"fileSize"_s;
 const QString durationName = u"duration"_s;
 
@@ -43,31 +47,27 @@ QString sumOf(const QString &name, const HRFArrayController::Records &records)
 
 HRFStatusLine::HRFStatusLine(HRFPlaylist &list, QWidget *parent) : QLabel(parent), m_list(list)
 {
-    constexpr std::chrono::milliseconds rest(80);
     constexpr int margin = 6;
     setObjectName(u"statusLine"_s);
     setAccessibleName(tr("Status"));
     setContentsMargins(margin, 0, margin, 0);
     m_timer.setSingleShot(true);
-    m_timer.setInterval(rest);
     connect(&m_timer, &QTimer::timeout, this, &HRFStatusLine::refresh);
-    connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this,
-            &HRFStatusLine::refreshSoon);
-    connect(&list.fileController(), &HRFArrayController::selectionDidChange, this,
-            &HRFStatusLine::refreshSoon);
+    const auto listDidChange = [this] { refreshAfter(restOfUser); };
+    connect(&list.fileController(), &HRFArrayController::arrangementDidChange, this, listDidChange);
+    connect(&list.fileController(), &HRFArrayController::selectionDidChange, this, listDidChange);
     connect(&list.managedObjectContext(), &HRFMainContext::objectsDidChange, this,
             [this](const HRFContextChanges &changes) {
                 if (affects(changes, sizeName) || affects(changes, durationName))
-                    refreshSoon();
+                    refreshAfter(restOfWrites);
             });
     refresh();
 }
 
-/// A timer that runs is left to run: then the line follows even what never rests.
-void HRFStatusLine::refreshSoon()
+void HRFStatusLine::refreshAfter(std::chrono::milliseconds rest)
 {
-    if (!m_timer.isActive())
-        m_timer.start();
+    if (!m_timer.isActive() || m_timer.remainingTimeAsDuration() > rest)
+        m_timer.start(rest);
 }
 
 void HRFStatusLine::refresh()

@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QTimer>
 
+#include <chrono>
+
 class HRFPlaylist;
 
 /// Tells how many files a list shows, how many of them are selected, and how large and long those
@@ -14,7 +16,8 @@ public:
     HRFStatusLine(HRFPlaylist &list, QWidget *parent);
 
 private:
-    void refreshSoon();
+    /// A timer that is to end earlier is left to run: then the line follows even what never rests.
+    void refreshAfter(std::chrono::milliseconds rest);
     void refresh();
 
     HRFPlaylist &m_list;

@@ -275,8 +275,8 @@ TEST_F(HRFListWindowTest, bringsTheFilterBackWhenAnImportIsCancelled)
     HRFPlaylist &list = window->document();
     int ends = 0;
     QObject::connect(&list.fileManager(), &HRFMetaFileManager::importDidEnd, [&] { ++ends; });
-    const auto cancelling = QObject::connect(
-        &list.fileController(), &HRFArrayController::arrangementDidChange, [&] {
+    const auto cancelling =
+        QObject::connect(&list.fileController(), &HRFArrayController::arrangementDidChange, [&] {
             EXPECT_FALSE(window->hasFilter());
             if (const auto progress = list.fileManager().importProgress())
                 progress->cancel();
