@@ -1023,6 +1023,33 @@
     </message>
 </context>
 <context>
+    <name>HRFImportNotice</name>
+    <message>
+        <source>Show what was not added, and why</source>
+        <translation>Zeigen, was nicht hinzugefügt wurde, und warum</translation>
+    </message>
+    <message>
+        <source>1 item was not added</source>
+        <translation>1 Objekt wurde nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 items were not added</source>
+        <translation>%1 Objekte wurden nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Show Files</source>
+        <translation>Dateien zeigen</translation>
+    </message>
+</context>
+<context>
     <name>HRFListColumn</name>
     <message>
         <source>Artwork</source>
@@ -1447,6 +1474,37 @@
     <message>
         <source>Try a pattern with fewer repetitions.</source>
         <translation>Versuchen Sie ein Muster mit weniger Wiederholungen.</translation>
+    </message>
+</context>
+<context>
+    <name>HRFPendingWork</name>
+    <message>
+        <source>Writing Metadata</source>
+        <translation>Metadaten werden geschrieben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Writing: %1 of %2</source>
+        <translation>Geschrieben: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the remaining operations?</source>
+        <translation>Möchten Sie die übrigen Vorgänge wirklich abbrechen?</translation>
+    </message>
+    <message>
+        <source>Files that are not written yet keep their tags as they are, though the list shows the new ones.</source>
+        <translation>Dateien, die noch nicht geschrieben sind, behalten ihre bisherigen Tags, obwohl die Liste die neuen zeigt.</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
     </message>
 </context>
 <context>

@@ -1023,6 +1023,33 @@
     </message>
 </context>
 <context>
+    <name>HRFImportNotice</name>
+    <message>
+        <source>Show what was not added, and why</source>
+        <translation>显示未添加的项目及原因</translation>
+    </message>
+    <message>
+        <source>1 item was not added</source>
+        <translation>1 个项目未添加</translation>
+    </message>
+    <message>
+        <source>%1 items were not added</source>
+        <translation>%1 个项目未添加</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 个</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Show Files</source>
+        <translation>显示文件</translation>
+    </message>
+</context>
+<context>
     <name>HRFListColumn</name>
     <message>
         <source>Artwork</source>
@@ -1447,6 +1474,37 @@
     <message>
         <source>Try a pattern with fewer repetitions.</source>
         <translation>请尝试重复较少的模式。</translation>
+    </message>
+</context>
+<context>
+    <name>HRFPendingWork</name>
+    <message>
+        <source>Writing Metadata</source>
+        <translation>正在写入元数据</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Writing: %1 of %2</source>
+        <translation>正在写入：%1/%2</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the remaining operations?</source>
+        <translation>确定要取消剩余的操作吗？</translation>
+    </message>
+    <message>
+        <source>Files that are not written yet keep their tags as they are, though the list shows the new ones.</source>
+        <translation>尚未写入的文件将保留原有标签，但列表中显示的是新标签。</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,7 @@
 #include "app/HRFFilterMenu.h"
 #include "app/HRFTestWithWindow.h"
-#include "support/HRFHeldQueue.h"
 #include "operations/HRFProgress.h"
+#include "support/HRFHeldQueue.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
