@@ -90,10 +90,12 @@ HRFViewConfigManager::HRFViewConfigManager()
 {
     openStore();
     managedObjectContext()->disableUndoRegistration();
-    if (storeWasReset())
+    if (storeWasReset()) {
         setGroups(defaultGroups());
-    else
+        saveChangesSilently(); // no end of the program shall leave a store that shows nothing
+    } else {
         readGroups();
+    }
 }
 
 QString HRFViewConfigManager::modelName() const

@@ -33,6 +33,8 @@ TEST_F(HRFViewConfigManagerTest, KeepsOnlyWhatCanBeShown)
 {
     // Every default is an attribute, and stands in one place alone.
     EXPECT_EQ(reopened().groups(), HRFViewConfigManager::defaultGroups());
+    // However the program ends, they are there the next time.
+    EXPECT_FALSE(HRFViewConfigManager::sharedManager().managedObjectContext()->hasChanges());
     int changes = 0;
     QObject::connect(&HRFViewConfigManager::sharedManager(), &HRFViewConfigManager::groupsDidChange,
                      [&] { ++changes; });
