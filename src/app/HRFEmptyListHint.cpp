@@ -11,15 +11,16 @@
 using namespace Qt::StringLiterals;
 
 HRFEmptyListHint::HRFEmptyListHint(QAbstractItemView &view)
-    : QWidget(view.viewport()), m_title(new QLabel(this)), m_explanation(new QLabel(this))
+    : QWidget(view.viewport())
+    , m_icon(new QLabel(this))
+    , m_title(new QLabel(this))
+    , m_explanation(new QLabel(this))
 {
-    constexpr int iconSize = 56;
     constexpr double titleScale = 1.4;
     constexpr double opacity = 0.6;
     setObjectName(u"emptyListHint"_s);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto *icon = new QLabel(this);
-    icon->setPixmap(HRFIcons::named(u"drop"_s).pixmap(iconSize));
+    drawIcon();
     QFont font = m_title->font();
     font.setPointSizeF(font.pointSizeF() * titleScale);
     m_title->setFont(font);
@@ -28,7 +29,7 @@ HRFEmptyListHint::HRFEmptyListHint(QAbstractItemView &view)
     setGraphicsEffect(dimmed);
     auto *layout = new QVBoxLayout(this);
     layout->addStretch();
-    for (QLabel *label : {icon, m_title, m_explanation}) {
+    for (QLabel *label : {m_icon, m_title, m_explanation}) {
         label->setAlignment(Qt::AlignCenter);
         layout->addWidget(label);
     }
@@ -41,6 +42,19 @@ void HRFEmptyListHint::setText(const QString &title, const QString &explanation)
 {
     m_title->setText(title);
     m_explanation->setText(explanation);
+}
+
+void HRFEmptyListHint::drawIcon()
+{
+    constexpr int size = 56;
+    m_icon->setPixmap(HRFIcons::named(u"drop"_s).pixmap(size));
+}
+
+void HRFEmptyListHint::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        drawIcon(); // has the colours of the palette
 }
 
 bool HRFEmptyListHint::eventFilter(QObject *object, QEvent *event)

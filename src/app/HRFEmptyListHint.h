@@ -16,8 +16,12 @@ public:
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void drawIcon();
+
+    QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_explanation;
 };
