@@ -1,5 +1,6 @@
 #include "app/HRFArtworkPane.h"
 
+#include "app/HRFAccessibility.h"
 #include "app/HRFIcons.h"
 #include "app/HRFListColumn.h"
 #include "app/HRFPicture.h"
@@ -52,6 +53,7 @@ void writeFile(const QString &path, const QByteArray &data)
 HRFArtworkPane::HRFArtworkPane(HRFPlaylist &list, QWidget *parent)
     : QWidget(parent), m_list(list), m_facts(new QLabel(this))
 {
+    HRFInstallAccessibility();
     setObjectName(u"artworkPane"_s);
     setAccessibleName(tr("Artwork"));
     setFocusPolicy(Qt::StrongFocus);

@@ -4,7 +4,6 @@
 #include "app/HRFStars.h"
 
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
@@ -38,7 +37,9 @@ public:
     {
         const auto same = common.value.toBool() ? Qt::Checked : Qt::Unchecked;
         m_box.setCheckState(common.isSame ? same : Qt::PartiallyChecked);
-        m_box.setToolTip(common.isSame ? QString() : multipleValues());
+        const QString note = common.isSame ? QString() : multipleValues();
+        m_box.setToolTip(note);
+        m_box.setAccessibleDescription(note);
         m_box.setEnabled(common.recordCount > 0);
     }
 
@@ -52,7 +53,7 @@ private:
     Box &m_box;
 };
 
-/// Every key that changes the stars is an edit, as every click is.
+/// Stars with their note beside them.
 class Stars : public HRFStarsEditor
 {
 public:
@@ -62,38 +63,22 @@ public:
         setAutoFillBackground(false);
         setFixedHeight(fontMetrics().height() + margin);
     }
-    void setNote(const QString &note)
-    {
-        m_note = note;
-        update();
-    }
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        event->accept();
-        HRFStarsEditor::keyPressEvent(event);
-        if (event->isAccepted())
-            Q_EMIT editingFinished();
-    }
     void paintEvent(QPaintEvent *event) override
     {
-        constexpr int widthOfStars = 88;
         HRFStarsEditor::paintEvent(event);
         QPainter painter(this);
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        const QRect place = rect().adjusted(widthOfStars, 0, 0, 0);
+        const QRect place = rect().adjusted(HRFStars::width, 0, 0, 0);
         painter.drawText(place, Qt::AlignVCenter,
-                         fontMetrics().elidedText(m_note, Qt::ElideRight, place.width()));
+                         fontMetrics().elidedText(note(), Qt::ElideRight, place.width()));
         if (!hasFocus())
             return;
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
     }
-
-private:
-    QString m_note;
 };
 
 class StarsField : public HRFSidebarField
@@ -106,8 +91,10 @@ public:
 
     void show(const HRFCommonValue &common) override
     {
-        m_stars.setStars(HRFStars::starsOf(common.value.toLongLong()));
-        m_stars.setNote(common.isSame ? QString() : multipleValues());
+        if (common.isSame)
+            m_stars.setStars(HRFStars::starsOf(common.value.toLongLong()));
+        else
+            m_stars.setDiffering(multipleValues());
         m_stars.setEnabled(common.recordCount > 0);
     }
 
@@ -115,7 +102,7 @@ private:
     StarsField(const HRFListColumn &column, Stars &stars)
         : HRFSidebarField(column, stars), m_stars(stars)
     {
-        connect(&stars, &HRFStarsEditor::editingFinished, this, [this] {
+        connect(&stars, &HRFStarsEditor::didChoose, this, [this] {
             const int rating = HRFStars::ratingOf(m_stars.stars());
             Q_EMIT didEdit(rating > 0 ? QVariant(qlonglong(rating)) : QVariant());
         });

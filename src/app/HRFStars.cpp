@@ -1,7 +1,9 @@
 #include "app/HRFStars.h"
 
+#include "app/HRFAccessibility.h"
 #include "app/HRFIcons.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -74,6 +76,7 @@ int starAt(const QRect &cell, QPoint place)
 
 HRFStarsEditor::HRFStarsEditor(QWidget *parent) : QWidget(parent)
 {
+    HRFInstallAccessibility();
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     setCursor(Qt::PointingHandCursor);
@@ -83,9 +86,32 @@ HRFStarsEditor::HRFStarsEditor(QWidget *parent) : QWidget(parent)
 
 void HRFStarsEditor::setStars(int stars)
 {
-    m_stars = std::clamp(stars, 0, HRFStars::most);
-    setAccessibleDescription(m_stars == 1 ? tr("1 star") : tr("%1 stars").arg(m_stars));
+    display(std::clamp(stars, 0, HRFStars::most), {});
+}
+
+void HRFStarsEditor::setDiffering(const QString &note)
+{
+    display(0, note);
+}
+
+void HRFStarsEditor::display(int stars, const QString &note)
+{
+    m_stars = stars;
+    m_note = note;
+    setAccessibleDescription(!note.isEmpty()  ? note
+                                 : stars == 1 ? tr("1 star")
+                                              : tr("%1 stars").arg(stars));
+    QAccessibleValueChangeEvent change(this, stars);
+    QAccessible::updateAccessibility(&change);
     update();
+}
+
+void HRFStarsEditor::choose(int stars)
+{
+    if (m_note.isEmpty() && std::clamp(stars, 0, HRFStars::most) == m_stars)
+        return;
+    setStars(stars);
+    Q_EMIT didChoose();
 }
 
 void HRFStarsEditor::paintEvent(QPaintEvent * /*event*/)
@@ -96,8 +122,12 @@ void HRFStarsEditor::paintEvent(QPaintEvent * /*event*/)
 
 void HRFStarsEditor::mousePressEvent(QMouseEvent *event)
 {
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
     const int star = HRFStars::starAt(rect(), event->position().toPoint());
-    setStars(star == m_stars ? 0 : star);
+    if (star == 0)
+        return; // beside them
+    choose(star == m_stars ? 0 : star);
     Q_EMIT editingFinished();
 }
 
@@ -114,14 +144,17 @@ bool HRFStarsEditor::event(QEvent *event)
 
 void HRFStarsEditor::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() >= Qt::Key_0 && event->key() <= Qt::Key_0 + HRFStars::most)
-        setStars(event->key() - Qt::Key_0);
-    else if (event->key() == Qt::Key_Delete)
-        setStars(0);
-    else if (event->key() == Qt::Key_Left)
-        setStars(m_stars - 1);
-    else if (event->key() == Qt::Key_Right)
-        setStars(m_stars + 1);
+    // Some keyboards have their digits above Shift.
+    const bool isPlain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
+    const int key = event->key();
+    if (isPlain && key >= Qt::Key_0 && key <= Qt::Key_0 + HRFStars::most)
+        choose(key - Qt::Key_0);
+    else if (isPlain && (key == Qt::Key_Delete || key == Qt::Key_Backspace))
+        choose(0);
+    else if (isPlain && key == Qt::Key_Left && m_stars > 0)
+        choose(m_stars - 1);
+    else if (isPlain && key == Qt::Key_Right)
+        choose(m_stars + 1);
     else
         QWidget::keyPressEvent(event);
 }

@@ -6,6 +6,8 @@
 namespace HRFStars {
 
 inline constexpr int most = 5;
+/// What they take with the space around them.
+inline constexpr int width = 88;
 
 int starsOf(qlonglong rating);
 /// The number that other programs take for as many stars.
@@ -17,8 +19,8 @@ int starAt(const QRect &cell, QPoint place);
 
 } // namespace HRFStars
 
-/// Lets the user choose a number of stars, by a click or by the keys 0 to 5, Left, Right and
-/// Delete.
+/// Lets the user choose a number of stars: by a click on the last of them, which takes all away
+/// when there are as many, by the keys 0 to 5, Left and Right, and Delete or Backspace for none.
 class HRFStarsEditor : public QWidget
 {
     Q_OBJECT
@@ -27,8 +29,18 @@ public:
 
     int stars() const { return m_stars; }
     void setStars(int stars);
+    /// Shows no stars, but a note that there are several numbers. Any number is another then, also
+    /// 0.
+    void setDiffering(const QString &note);
+    const QString &note() const { return m_note; }
+
+    /// As if the user did so.
+    void choose(int stars);
 
 Q_SIGNALS:
+    /// The user has chosen another number.
+    void didChoose();
+    /// The user has clicked a star, and is done.
     void editingFinished();
 
 protected:
@@ -38,5 +50,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void display(int stars, const QString &note);
+
     int m_stars = 0;
+    QString m_note; ///< when there are several numbers
 };

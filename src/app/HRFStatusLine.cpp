@@ -49,7 +49,6 @@ HRFStatusLine::HRFStatusLine(HRFPlaylist &list, QWidget *parent) : QLabel(parent
 {
     constexpr int margin = 6;
     setObjectName(u"statusLine"_s);
-    setAccessibleName(tr("Status"));
     setContentsMargins(margin, 0, margin, 0);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &HRFStatusLine::refresh);
