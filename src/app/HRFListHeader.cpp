@@ -23,6 +23,7 @@ const QString settingKey = u"lirra.display.columns"_s;
 
 constexpr int buttonSize = 16;
 constexpr int arrowSize = 10;
+constexpr int numberSize = 9;
 constexpr int sideMargin = 5;
 constexpr int narrowest = 24;
 constexpr int usualWidth = 120;
@@ -140,6 +141,27 @@ void HRFListHeader::setColumnShown(int column, bool isShown)
     Q_EMIT shownColumnsDidChange();
 }
 
+/// The column that a column changes places with; -1 for none.
+int HRFListHeader::neighbour(int column, int step) const
+{
+    const std::vector<int> shown = shownColumns();
+    const auto place = std::ranges::find(shown, column) - shown.begin();
+    const bool isThere =
+        place < std::ssize(shown) && place + step >= 0 && place + step < std::ssize(shown);
+    return isThere ? shown[std::size_t(place + step)] : -1;
+}
+
+bool HRFListHeader::canMoveColumn(int column, int step) const
+{
+    return neighbour(column, step) >= 0;
+}
+
+void HRFListHeader::moveColumn(int column, int step)
+{
+    if (const int other = neighbour(column, step); other >= 0)
+        moveSection(visualIndex(column), visualIndex(other));
+}
+
 void HRFListHeader::sortBy(int column, bool isFurther)
 {
     const QString keyPath = keyPathOf(column);
@@ -181,17 +203,28 @@ void HRFListHeader::addColumnActions(QMenu &menu)
             &HRFListHeader::showDefaultColumns);
 }
 
+void HRFListHeader::addSortAction(QMenu &menu, int column, bool isFurther)
+{
+    QAction *action = menu.addAction(HRFListColumns::all()[std::size_t(column)].title);
+    action->setCheckable(true);
+    action->setChecked(sortPlace(column) > 0);
+    connect(action, &QAction::triggered, this,
+            [this, column, isFurther] { sortBy(column, isFurther); });
+}
+
 void HRFListHeader::addSortActions(QMenu &menu)
 {
+    auto *further = new QMenu(tr("&Then By"), &menu);
+    further->setEnabled(!m_controller.sortDescriptors().empty());
     for (const int column : shownColumns()) {
         if (keyPathOf(column).isEmpty())
             continue;
-        QAction *action = menu.addAction(HRFListColumns::all()[std::size_t(column)].title);
-        action->setCheckable(true);
-        action->setChecked(isSortedBy(column));
-        connect(action, &QAction::triggered, this, [this, column] { sortBy(column, false); });
+        addSortAction(menu, column, false);
+        if (sortPlace(column) != 1)
+            addSortAction(*further, column, true);
     }
     menu.addSeparator();
+    menu.addMenu(further);
     connect(menu.addAction(tr("Order of Adding")), &QAction::triggered, this, [this] {
         m_controller.setSortDescriptors({});
         viewport()->update();
@@ -203,18 +236,35 @@ QRect HRFListHeader::sectionRect(int column) const
     return {sectionViewportPosition(column), 0, sectionSize(column), height()};
 }
 
-bool HRFListHeader::isSortedBy(int column) const
+/// Whether the list is sorted by a column first (1), next (2), ...; 0 for not at all.
+int HRFListHeader::sortPlace(int column) const
 {
     const HRFSortDescriptors &descriptors = m_controller.sortDescriptors();
-    return std::ranges::find(descriptors, keyPathOf(column), &HRFSortDescriptor::keyPath)
-        != descriptors.end();
+    const auto present =
+        std::ranges::find(descriptors, keyPathOf(column), &HRFSortDescriptor::keyPath);
+    return present == descriptors.end() ? 0 : int(present - descriptors.begin()) + 1;
+}
+
+/// One alone needs no number.
+bool HRFListHeader::showsSortPlace(int column) const
+{
+    return m_controller.sortDescriptors().size() > 1 && sortPlace(column) > 0;
+}
+
+/// Where the arrow of a column is, with its number before it where there are several.
+QRect HRFListHeader::sortRect(int column) const
+{
+    const QRect section = sectionRect(column);
+    const int arrow = sortPlace(column) > 0 ? sideMargin + arrowSize : 0;
+    const int width = arrow + (showsSortPlace(column) ? numberSize : 0);
+    return {section.right() - width, section.top(), width, section.height()};
 }
 
 /// Where the filter button of a column is: at the end, but before the arrow.
 QRect HRFListHeader::filterRect(int column) const
 {
     const QRect section = sectionRect(column);
-    const int right = section.right() - (isSortedBy(column) ? sideMargin + arrowSize : 0);
+    const int right = section.right() - sortRect(column).width();
     return {right - sideMargin - buttonSize, section.top() + (section.height() - buttonSize) / 2,
             buttonSize, buttonSize};
 }
@@ -230,20 +280,27 @@ bool HRFListHeader::showsFilterButton(int column) const
 void HRFListHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
 {
     QHeaderView::initStyleOptionForIndex(option, column);
-    const HRFSortDescriptors &descriptors = m_controller.sortDescriptors();
-    const auto sorted =
-        std::ranges::find(descriptors, keyPathOf(column), &HRFSortDescriptor::keyPath);
-    int room = option->rect.width() - 2 * sideMargin;
-    if (sorted != descriptors.end()) {
-        option->sortIndicator =
-            sorted->ascending ? QStyleOptionHeader::SortDown : QStyleOptionHeader::SortUp;
-        room -= arrowSize + sideMargin;
-    }
+    if (const int place = sortPlace(column); place > 0)
+        option->sortIndicator = m_controller.sortDescriptors()[std::size_t(place - 1)].ascending
+            ? QStyleOptionHeader::SortDown
+            : QStyleOptionHeader::SortUp;
+    int room = option->rect.width() - 2 * sideMargin - sortRect(column).width();
     if (showsFilterButton(column))
         room -= buttonSize + sideMargin;
     option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room);
-    if (option->textAlignment & Qt::AlignRight)
-        option->text += QChar::Nbsp; // keeps away from the next title
+    if (!(option->textAlignment & Qt::AlignRight))
+        return;
+    option->text += QChar::Nbsp; // keeps away from the next title
+    if (showsSortPlace(column)) // and from the number
+        option->text +=
+            QString((numberSize + sideMargin) / option->fontMetrics.horizontalAdvance(QChar::Nbsp),
+                    QChar::Nbsp);
+}
+
+QSize HRFListHeader::sectionSizeFromContents(int column) const
+{
+    const QSize size = QHeaderView::sectionSizeFromContents(column);
+    return {size.width() + sortRect(column).width(), size.height()};
 }
 
 void HRFListHeader::paintSection(QPainter *painter, const QRect &rect, int column) const
@@ -251,8 +308,23 @@ void HRFListHeader::paintSection(QPainter *painter, const QRect &rect, int colum
     painter->save();
     QHeaderView::paintSection(painter, rect, column);
     painter->restore();
+    if (showsSortPlace(column))
+        paintSortPlace(*painter, column);
     if (showsFilterButton(column))
         HRFIcons::named(u"filter"_s).paint(painter, filterRect(column));
+}
+
+void HRFListHeader::paintSortPlace(QPainter &painter, int column) const
+{
+    constexpr double scale = 0.75;
+    painter.save();
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * scale);
+    painter.setFont(small);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(sortRect(column).adjusted(0, 0, -arrowSize - sideMargin, 0), Qt::AlignCenter,
+                     locale().toString(sortPlace(column)));
+    painter.restore();
 }
 
 void HRFListHeader::requestFilter(int column)

@@ -19,6 +19,9 @@ public:
     void setColumnShown(int column, bool isShown);
     /// The numbers of the shown columns from left to right.
     std::vector<int> shownColumns() const;
+    /// Moves a shown column by a step to the left (-1) or to the right (1), among those shown.
+    void moveColumn(int column, int step);
+    bool canMoveColumn(int column, int step) const;
 
     /// Sorts by a column, or the other way round when the list is sorted by it.
     /// @param isFurther keeps the columns that the list is sorted by, for what is equal in them
@@ -40,6 +43,7 @@ Q_SIGNALS:
     void shownColumnsDidChange();
 
 protected:
+    QSize sectionSizeFromContents(int column) const override;
     void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override;
     void paintSection(QPainter *painter, const QRect &rect, int column) const override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -52,7 +56,12 @@ private:
     void applyColumns(const QStringList &layout);
     QRect sectionRect(int column) const;
     QRect filterRect(int column) const;
-    bool isSortedBy(int column) const;
+    void addSortAction(QMenu &menu, int column, bool isFurther);
+    int neighbour(int column, int step) const;
+    int sortPlace(int column) const;
+    void paintSortPlace(QPainter &painter, int column) const;
+    bool showsSortPlace(int column) const;
+    QRect sortRect(int column) const;
     bool showsFilterButton(int column) const;
     void setHoveredColumn(int column);
 
