@@ -2,6 +2,7 @@
 
 #include "kit/HRFAssert.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -35,11 +36,17 @@ int lockFolder(const QString &path)
     return -1;
 }
 
-HRFError folderError(const QString &path, const QString &description, int code)
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("HRFDataFolder", text);
+}
+
+HRFError folderError(const QString &path, int code)
 {
     return {.domain = QString::fromLatin1(HRFPOSIXErrorDomain),
             .code = code,
-            .description = description,
+            .description = code == EWOULDBLOCK ? tr("The folder is in use by another program.")
+                                               : tr("The folder cannot be used."),
             .path = path,
             .underlying = std::make_shared<HRFError>(HRFError::fromErrno(code))};
 }
@@ -75,12 +82,8 @@ HRFResult<std::unique_ptr<HRFDataFolder>> HRFDataFolder::take(const QString &pat
     const QString folder = QDir(path).absolutePath();
     QDir().mkpath(folder);
     const int lock = lockFolder(folder);
-    if (lock < 0)
-        return std::unexpected(folderError(folder,
-                                           errno == EWOULDBLOCK
-                                               ? u"The folder is in use by another program."_s
-                                               : u"The folder cannot be used."_s,
-                                           errno));
+    if (const int reason = errno; lock < 0)
+        return std::unexpected(folderError(folder, reason));
     removeSessions(folder + u"/windowSessions"_s);
     return std::unique_ptr<HRFDataFolder>(new HRFDataFolder(folder, lock));
 }
