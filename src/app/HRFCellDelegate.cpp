@@ -17,6 +17,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 using Kind = HRFListColumnKind;
@@ -75,6 +76,14 @@ void paintThumbnail(QPainter *painter, const QStyleOptionViewItem &option, const
     painter->restore();
 }
 
+/// A key that ends the editing of a line.
+bool isEnd(const QEvent &event)
+{
+    constexpr std::array keys{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab};
+    return event.type() == QEvent::KeyPress
+        && std::ranges::find(keys, static_cast<const QKeyEvent &>(event).key()) != keys.end();
+}
+
 bool activates(const QEvent &event, const QRect &rect)
 {
     if (event.type() == QEvent::MouseButtonRelease) {
@@ -130,6 +139,12 @@ void HRFCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         HRFStars::paint(*painter, option.rect, stars, option.state & QStyle::State_Selected);
 }
 
+QSize HRFCellDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return columnOf(index).kind == Kind::Rating ? QSize(HRFStars::width, size.height()) : size;
+}
+
 QWidget *HRFCellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem & /*option*/,
                                        const QModelIndex &index) const
 {
@@ -154,7 +169,7 @@ void HRFCellDelegate::setEditorData(QWidget * /*editor*/, const QModelIndex & /*
 void HRFCellDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                    const QModelIndex &index) const
 {
-    if (HRFIsCellEditorChanged(*editor))
+    if (HRFCheckCellEditor(*editor) && HRFIsCellEditorChanged(*editor))
         model->setData(index, HRFValueOfCellEditor(columnOf(index), *editor), Qt::EditRole);
 }
 
@@ -201,9 +216,13 @@ bool HRFCellDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
     return true;
 }
 
-/// Return ends a text of several lines only with Ctrl.
+/// Return ends a text of several lines only with Ctrl. What is no value of the column stays in its
+/// editor, to be put right.
 bool HRFCellDelegate::eventFilter(QObject *object, QEvent *event)
 {
+    const bool leaves = event->type() == QEvent::FocusOut;
+    if ((leaves || isEnd(*event)) && !HRFCheckCellEditor(static_cast<QWidget &>(*object)))
+        return !leaves;
     auto *lines = qobject_cast<QPlainTextEdit *>(object);
     if (lines && event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);

@@ -1,6 +1,7 @@
 #include "app/HRFCellEditors.h"
 
 #include "app/HRFFieldText.h"
+#include "app/HRFInputError.h"
 #include "app/HRFListColumn.h"
 #include "app/HRFStars.h"
 
@@ -24,12 +25,21 @@ void selectBaseName(QLineEdit *field)
     });
 }
 
+/// One line.
+class Field : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+
+    HRFInputError *error = nullptr; ///< where not every text is a value
+};
+
 QWidget *makeField(const HRFListColumn &column, const QString &text, QWidget *parent)
 {
-    auto *field = new QLineEdit(parent);
+    auto *field = new Field(parent);
     field->setFrame(false);
     field->setAutoFillBackground(true);
-    HRFFieldText::setUp(*field, column);
+    field->error = HRFFieldText::setUp(*field, column);
     if (column.isQuantity())
         field->setAlignment(Qt::AlignRight);
     field->setText(text);
@@ -71,6 +81,15 @@ QWidget *HRFMakeCellEditor(const HRFListColumn &column, const QVariant &value, Q
     QWidget *editor = makeEditor(column, value, parent);
     editor->setProperty(initialProperty, currentText(*editor));
     return editor;
+}
+
+bool HRFCheckCellEditor(const QWidget &editor)
+{
+    const auto *field = dynamic_cast<const Field *>(&editor);
+    if (!field || !field->error || field->error->reason().isEmpty())
+        return true;
+    field->error->explain();
+    return false;
 }
 
 bool HRFIsCellEditorChanged(const QWidget &editor)

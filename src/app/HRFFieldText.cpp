@@ -1,8 +1,10 @@
 #include "app/HRFFieldText.h"
 
+#include "app/HRFInputError.h"
 #include "app/HRFListColumn.h"
 #include "kit/HRFISO8601DateFormatter.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QIntValidator>
 #include <QLineEdit>
@@ -33,6 +35,22 @@ QString textOfDate(const QDateTime &date)
                            : HRFISO8601DateFormatter::shared().stringFromDate(date);
 }
 
+class NumberValidator : public QIntValidator
+{
+public:
+    explicit NumberValidator(QObject *parent)
+        : QIntValidator(0, std::numeric_limits<int>::max(), parent)
+    {
+        QLocale digits = QLocale::c();
+        digits.setNumberOptions(QLocale::RejectGroupSeparator);
+        setLocale(digits);
+    }
+    State validate(QString &text, int &position) const override
+    {
+        return text.isEmpty() ? Acceptable : QIntValidator::validate(text, position);
+    }
+};
+
 class DateValidator : public QValidator
 {
 public:
@@ -55,25 +73,22 @@ public:
 
 QValidator *validatorFor(const HRFListColumn &column, QObject *parent)
 {
-    if (column.kind == Kind::Number) {
-        auto *numbers = new QIntValidator(0, std::numeric_limits<int>::max(), parent);
-        QLocale digits = QLocale::c();
-        digits.setNumberOptions(QLocale::RejectGroupSeparator);
-        numbers->setLocale(digits);
-        return numbers;
-    }
+    if (column.kind == Kind::Number)
+        return new NumberValidator(parent);
     if (column.kind == Kind::Date)
         return new DateValidator(parent);
     return column.attribute()->isFilename() ? new FileNameValidator(parent) : nullptr;
 }
 
-/// Says by its colour that what was typed is no value.
-void showValidity(QLineEdit &field)
+/// What is to be entered; nothing where whatever can be typed is a value.
+QString expectationOf(const HRFListColumn &column)
 {
-    QPalette palette;
-    if (!field.hasAcceptableInput())
-        palette.setColor(QPalette::Text, QColor(0xC0, 0x30, 0x30));
-    field.setPalette(palette);
+    if (column.kind == Kind::Date)
+        return QCoreApplication::translate(
+            "HRFFieldText", "Enter a date as YYYY-MM-DD, a month as YYYY-MM, or a year.");
+    return column.attribute()->isFilename()
+        ? QCoreApplication::translate("HRFFieldText", "Enter a name other than “.” and “..”.")
+        : QString();
 }
 
 } // namespace
@@ -105,10 +120,17 @@ bool hasLines(const HRFListColumn &column, const QString &text)
     return text.contains(u'\n') || longTexts.contains(column.name);
 }
 
-void setUp(QLineEdit &field, const HRFListColumn &column)
+HRFInputError *setUp(QLineEdit &field, const HRFListColumn &column)
 {
     field.setValidator(validatorFor(column, &field));
-    QObject::connect(&field, &QLineEdit::textChanged, &field, [&field] { showValidity(field); });
+    const QString expectation = expectationOf(column);
+    if (expectation.isEmpty())
+        return nullptr;
+    auto *error = new HRFInputError(field);
+    QObject::connect(&field, &QLineEdit::textChanged, error, [&field, error, expectation] {
+        error->setReason(field.hasAcceptableInput() ? QString() : expectation);
+    });
+    return error;
 }
 
 } // namespace HRFFieldText

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QVariant>
 
+class HRFInputError;
 class QLineEdit;
 class QObject;
 class QValidator;
@@ -18,7 +19,8 @@ QVariant valueOf(const HRFListColumn &column, const QString &text);
 /// A text that is kept in lines.
 bool hasLines(const HRFListColumn &column, const QString &text);
 
-/// Lets only values of the column be entered, and shows by colour what is none yet.
-void setUp(QLineEdit &field, const HRFListColumn &column);
+/// Lets only values of the column be entered; an empty field has none.
+/// @return says what is none yet, and goes with the field; nullptr where that cannot be
+HRFInputError *setUp(QLineEdit &field, const HRFListColumn &column);
 
 } // namespace HRFFieldText

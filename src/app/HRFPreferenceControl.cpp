@@ -1,11 +1,13 @@
 #include "app/HRFPreferenceControl.h"
 
+#include "app/HRFInputError.h"
 #include "app/HRFPreferenceTable.h"
 #include "kit/HRFUserDefaults.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
@@ -82,19 +84,33 @@ void chooseFolder(QLineEdit *field, const QString &title, const std::function<vo
     panel->open();
 }
 
+/// What is no folder stays in the field, to be put right, and does not become the setting.
 QWidget *makeFolder(const HRFPreferenceRow &row, QWidget *parent)
 {
     auto *field = new QLineEdit(parent);
     field->setClearButtonEnabled(true);
     field->setPlaceholderText(tr("None"));
+    field->setAccessibleDescription(tr(row.explanation));
+    auto *error = new HRFInputError(*field);
+    const auto check = [=] {
+        const QString folder = field->text();
+        const bool isThere = QDir::isAbsolutePath(folder) && QDir(folder).exists();
+        error->setReason(folder.isEmpty() || isThere ? QString()
+                                                     : tr("There is no folder with this path."));
+        return error->reason().isEmpty();
+    };
     const QString key = keyOf(row);
     follow(key, field, [=] {
         field->setText(HRFUserDefaults::standard().stringForKey(key).value_or(QString()));
+        check();
     });
     const auto store = [=] {
+        if (!check())
+            return error->explain();
         const QString folder = field->text();
         HRFUserDefaults::standard().setValueForKey(folder.isEmpty() ? QVariant() : folder, key);
     };
+    QObject::connect(field, &QLineEdit::textEdited, error, [=] { error->setReason({}); });
     QObject::connect(field, &QLineEdit::editingFinished, field, store);
     return field;
 }
@@ -165,7 +181,8 @@ QWidget *HRFMakePreferenceControl(const HRFPreferenceRow &row, QWidget *parent)
     QWidget *input = makeInput(row, control);
     input->setObjectName(keyOf(row));
     input->setAccessibleName(tr(row.label));
-    input->setAccessibleDescription(tr(row.explanation));
+    if (input->accessibleDescription().isEmpty())
+        input->setAccessibleDescription(tr(row.explanation));
     auto *layout = new QVBoxLayout(control);
     layout->setContentsMargins({});
     layout->setSpacing(gap);

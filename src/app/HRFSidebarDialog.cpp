@@ -1,5 +1,6 @@
 #include "app/HRFSidebarDialog.h"
 
+#include "app/HRFInputError.h"
 #include "app/HRFListColumn.h"
 #include "store/HRFAttributeManager.h"
 
@@ -8,6 +9,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -33,6 +36,40 @@ QListWidget *makeList(const QString &objectName, const QString &title, QWidget *
     list->setDefaultDropAction(Qt::MoveAction);
     return list;
 }
+
+/// Edits the names of groups, of which none is empty.
+class NameDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem & /*option*/,
+                          const QModelIndex & /*index*/) const override
+    {
+        static const QRegularExpression notBlank(uR"(.*\S.*)"_s);
+        auto *field = new QLineEdit(parent);
+        field->setObjectName(u"groupName"_s);
+        field->setAccessibleName(HRFSidebarDialog::tr("Name of the Group"));
+        field->setFrame(false);
+        field->setValidator(new QRegularExpressionValidator(notBlank, field));
+        auto *error = new HRFInputError(*field);
+        connect(field, &QLineEdit::textChanged, error, [field, error] {
+            error->setReason(field->hasAcceptableInput()
+                                 ? QString()
+                                 : HRFSidebarDialog::tr("A group needs a name."));
+            error->explain();
+        });
+        return field;
+    }
+
+    /// Not even when another group is chosen.
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override
+    {
+        if (static_cast<QLineEdit *>(editor)->hasAcceptableInput())
+            QStyledItemDelegate::setModelData(editor, model, index);
+    }
+};
 
 /// A list or tree under its title, with buttons below it.
 QWidget *makePane(const QString &title, const std::vector<QWidget *> &content,
@@ -133,6 +170,7 @@ void HRFSidebarDialog::move(QListWidget &list, int step)
 
 QWidget *HRFSidebarDialog::makeGroupsPane()
 {
+    m_groups->setItemDelegate(new NameDelegate(m_groups));
     m_groups->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_groups->setToolTip(tr("Drag groups to order them, double-click one to name it"));
     connect(m_groups, &QListWidget::currentItemChanged, this, &HRFSidebarDialog::showFields);

@@ -20,8 +20,10 @@ public:
 
     /// What is being entered stays.
     virtual void show(const HRFCommonValue &common) = 0;
-    /// Tells of what was entered; what is no value of the column is taken back.
+    /// Tells of what was entered; what is no value of the column stays as it is, to be put right.
     virtual void commit() { }
+    /// Takes back what was entered and not told of.
+    virtual void revert() { }
 
 Q_SIGNALS:
     void didEdit(const QVariant &value);

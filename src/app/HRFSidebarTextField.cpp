@@ -1,6 +1,7 @@
 #include "app/HRFSidebarTextField.h"
 
 #include "app/HRFFieldText.h"
+#include "app/HRFInputError.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -34,7 +35,7 @@ protected:
     }
     void setPlaceholder(const QString &text) override { m_line.setPlaceholderText(text); }
     void setReadOnly(bool isReadOnly) override { m_line.setReadOnly(isReadOnly); }
-    bool isAcceptable() const override { return m_line.hasAcceptableInput(); }
+    HRFInputError *error() const override { return m_error; }
     bool isEnd(const QKeyEvent &key) const override
     {
         return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -47,7 +48,7 @@ private:
         : HRFSidebarTextField(column, line), m_line(line)
     {
         if (column.isEditable())
-            HRFFieldText::setUp(line, column);
+            m_error = HRFFieldText::setUp(line, column);
         else
             showNothingButText();
     }
@@ -61,6 +62,7 @@ private:
     }
 
     QLineEdit &m_line;
+    HRFInputError *m_error = nullptr;
 };
 
 class LinesField : public HRFSidebarTextField
@@ -143,6 +145,7 @@ void HRFSidebarTextField::show(const HRFCommonValue &common)
         column().isEditable() ? HRFFieldText::textOf(column(), common.value) : common.text;
     m_hasValue = !common.isSame || !shown.isEmpty();
     setPlaceholder(common.isSame ? hint() : multipleText());
+    describe(common.isSame ? QString() : multipleValues());
     setReadOnly(m_isReadOnly);
     if (isModified()) {
         m_shown = shown;
@@ -171,12 +174,26 @@ QString HRFSidebarTextField::multipleText() const
     return column().isQuantity() && column().isEditable() ? tr("Multiple") : multipleValues();
 }
 
+void HRFSidebarTextField::describe(const QString &text)
+{
+    if (HRFInputError *stated = error())
+        stated->setUsualDescription(text);
+    else
+        widget().setAccessibleDescription(text);
+}
+
+void HRFSidebarTextField::revert()
+{
+    if (isModified())
+        restore();
+}
+
 void HRFSidebarTextField::commit()
 {
     if (!isModified())
         return;
-    if (!isAcceptable())
-        return restore();
+    if (HRFInputError *stated = error(); stated && !stated->reason().isEmpty())
+        return stated->explain();
     m_shown = text();
     Q_EMIT didEdit(HRFFieldText::valueOf(column(), m_shown));
 }
@@ -211,10 +228,9 @@ bool HRFSidebarTextField::filterKey(QKeyEvent &key)
     }
     if (!isEnd(key))
         return false;
-    if (isAcceptable()) {
-        commit();
+    commit();
+    if (!isModified())
         selectAll();
-    }
     return true;
 }
 

@@ -2,12 +2,14 @@
 
 #include "app/HRFSidebarField.h"
 
+class HRFInputError;
 class QEvent;
 class QKeyEvent;
 class QMenu;
 
 /// A value that is typed: one line, or several where the column keeps lines. Return takes what was
 /// typed (in lines with Ctrl), leaving the field does so too, Escape brings back what was there.
+/// What is no value of the column stays in the field, which says why, to be put right.
 class HRFSidebarTextField : public HRFSidebarField
 {
     Q_OBJECT
@@ -16,6 +18,7 @@ public:
 
     void show(const HRFCommonValue &common) override;
     void commit() override;
+    void revert() override;
     bool eventFilter(QObject *object, QEvent *event) override;
 
 protected:
@@ -25,7 +28,8 @@ protected:
     virtual void setText(const QString &text) = 0;
     virtual void setPlaceholder(const QString &text) = 0;
     virtual void setReadOnly(bool isReadOnly) = 0;
-    virtual bool isAcceptable() const { return true; }
+    /// nullptr where every text is a value.
+    virtual HRFInputError *error() const { return nullptr; }
     /// Whether a key press ends the typing.
     virtual bool isEnd(const QKeyEvent &key) const = 0;
     virtual void selectAll() = 0;
@@ -33,6 +37,7 @@ protected:
 
 private:
     bool isModified() const { return text() != m_shown; }
+    void describe(const QString &text);
     void restore();
     QString hint() const;
     QString multipleText() const;
