@@ -493,6 +493,17 @@
     </message>
 </context>
 <context>
+    <name>HRFDataFolder</name>
+    <message>
+        <source>The folder is in use by another program.</source>
+        <translation>Der Ordner wird von einem anderen Programm benutzt.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be used.</source>
+        <translation>Der Ordner kann nicht benutzt werden.</translation>
+    </message>
+</context>
+<context>
     <name>HRFDebugMenu</name>
     <message>
         <source>Drop Databases</source>
@@ -578,6 +589,17 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>HRFFieldText</name>
+    <message>
+        <source>Enter a date as YYYY-MM-DD, a month as YYYY-MM, or a year.</source>
+        <translation>Bitte ein Datum als JJJJ-MM-TT, einen Monat als JJJJ-MM oder ein Jahr eingeben.</translation>
+    </message>
+    <message>
+        <source>Enter a name other than “.” and “..”.</source>
+        <translation>Bitte einen anderen Namen als „.“ und „..“ eingeben.</translation>
     </message>
 </context>
 <context>
@@ -1270,6 +1292,34 @@
         <source>Choose which fields the sidebar shows</source>
         <translation>Wählen, welche Felder die Seitenleiste zeigt</translation>
     </message>
+    <message>
+        <source>Move Column Lef&amp;t</source>
+        <translation>Spalte nach lin&amp;ks</translation>
+    </message>
+    <message>
+        <source>Move the column of the current cell</source>
+        <translation>Die Spalte der aktuellen Zelle verschieben</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Right</source>
+        <translation>Spalte nach &amp;rechts</translation>
+    </message>
+    <message>
+        <source>Fit Column &amp;Width</source>
+        <translation>Spalten&amp;breite anpassen</translation>
+    </message>
+    <message>
+        <source>Make the column of the current cell as wide as what stands in it</source>
+        <translation>Die Spalte der aktuellen Zelle so breit machen wie ihren Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;Undo “%1”</source>
+        <translation>&amp;Rückgängig: „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;Redo “%1”</source>
+        <translation>&amp;Wiederholen: „%1“</translation>
+    </message>
 </context>
 <context>
     <name>HRFListHeader</name>
@@ -1292,6 +1342,10 @@
     <message>
         <source>Hide “%1”</source>
         <translation>„%1“ ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>&amp;Dann nach</translation>
     </message>
 </context>
 <context>
@@ -1823,6 +1877,10 @@
         <source>They are shown in the file manager afterwards.</source>
         <translation>Sie werden anschließend im Dateimanager gezeigt.</translation>
     </message>
+    <message>
+        <source>There is no folder with this path.</source>
+        <translation>Einen Ordner mit diesem Pfad gibt es nicht.</translation>
+    </message>
 </context>
 <context>
     <name>HRFPreferencesWindow</name>
@@ -1996,6 +2054,14 @@
         <source>New Group</source>
         <translation>Neue Gruppe</translation>
     </message>
+    <message>
+        <source>Name of the Group</source>
+        <translation>Name der Gruppe</translation>
+    </message>
+    <message>
+        <source>A group needs a name.</source>
+        <translation>Eine Gruppe braucht einen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>HRFSidebarField</name>
@@ -2051,10 +2117,6 @@
 </context>
 <context>
     <name>HRFStatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
     <message>
         <source>No file matches the filter</source>
         <translation>Keine Datei passt zum Filter</translation>

@@ -493,6 +493,17 @@
     </message>
 </context>
 <context>
+    <name>HRFDataFolder</name>
+    <message>
+        <source>The folder is in use by another program.</source>
+        <translation>该文件夹正被另一个程序使用。</translation>
+    </message>
+    <message>
+        <source>The folder cannot be used.</source>
+        <translation>无法使用该文件夹。</translation>
+    </message>
+</context>
+<context>
     <name>HRFDebugMenu</name>
     <message>
         <source>Drop Databases</source>
@@ -578,6 +589,17 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>HRFFieldText</name>
+    <message>
+        <source>Enter a date as YYYY-MM-DD, a month as YYYY-MM, or a year.</source>
+        <translation>请输入日期（YYYY-MM-DD）、月份（YYYY-MM）或年份。</translation>
+    </message>
+    <message>
+        <source>Enter a name other than “.” and “..”.</source>
+        <translation>请输入“.”和“..”以外的名称。</translation>
     </message>
 </context>
 <context>
@@ -1270,6 +1292,34 @@
         <source>Choose which fields the sidebar shows</source>
         <translation>选择侧边栏显示的字段</translation>
     </message>
+    <message>
+        <source>Move Column Lef&amp;t</source>
+        <translation>左移列(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Move the column of the current cell</source>
+        <translation>移动当前单元格所在的列</translation>
+    </message>
+    <message>
+        <source>Move Column &amp;Right</source>
+        <translation>右移列(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Fit Column &amp;Width</source>
+        <translation>调整列宽以适应内容(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Make the column of the current cell as wide as what stands in it</source>
+        <translation>使当前单元格所在的列与其内容同宽</translation>
+    </message>
+    <message>
+        <source>&amp;Undo “%1”</source>
+        <translation>撤销“%1”(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo “%1”</source>
+        <translation>重做“%1”(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>HRFListHeader</name>
@@ -1292,6 +1342,10 @@
     <message>
         <source>Hide “%1”</source>
         <translation>隐藏“%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Then By</source>
+        <translation>然后按(&amp;T)</translation>
     </message>
 </context>
 <context>
@@ -1823,6 +1877,10 @@
         <source>They are shown in the file manager afterwards.</source>
         <translation>之后在文件管理器中显示它们。</translation>
     </message>
+    <message>
+        <source>There is no folder with this path.</source>
+        <translation>此路径没有对应的文件夹。</translation>
+    </message>
 </context>
 <context>
     <name>HRFPreferencesWindow</name>
@@ -1996,6 +2054,14 @@
         <source>New Group</source>
         <translation>新分组</translation>
     </message>
+    <message>
+        <source>Name of the Group</source>
+        <translation>组名称</translation>
+    </message>
+    <message>
+        <source>A group needs a name.</source>
+        <translation>组必须有名称。</translation>
+    </message>
 </context>
 <context>
     <name>HRFSidebarField</name>
@@ -2051,10 +2117,6 @@
 </context>
 <context>
     <name>HRFStatusLine</name>
-    <message>
-        <source>Status</source>
-        <translation>状态</translation>
-    </message>
     <message>
         <source>No file matches the filter</source>
         <translation>没有文件符合筛选条件</translation>

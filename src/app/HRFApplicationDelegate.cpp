@@ -71,7 +71,7 @@ void HRFApplicationDelegate::close(HRFListWindow &window)
 void HRFApplicationDelegate::quit()
 {
     for (const auto &window : m_windows)
-        window->commit();
+        window->commitEditing();
     m_documents.terminate([this] {
         for (const auto &window : m_windows)
             window->hide();

@@ -106,6 +106,18 @@ const CommandRow rows[] = {
 
     {view, "columns"_L1},
     {view, "sortBy"_L1},
+    {view, "moveColumnLeft"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Move Column Lef&t"),
+     "Ctrl+Shift+Left", "",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Move the column of the current cell"),
+     &Window::moveColumnLeft, &Window::canMoveColumnLeft},
+    {view, "moveColumnRight"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Move Column &Right"),
+     "Ctrl+Shift+Right", "",
+     QT_TRANSLATE_NOOP("HRFListCommands", "Move the column of the current cell"),
+     &Window::moveColumnRight, &Window::canMoveColumnRight},
+    {view, "fitColumnWidth"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "Fit Column &Width"), "", "",
+     QT_TRANSLATE_NOOP("HRFListCommands",
+                       "Make the column of the current cell as wide as what stands in it"),
+     &Window::fitColumnWidth, &Window::hasCurrentColumn},
     {view, ""_L1},
     {view, "sidebar"_L1, QT_TRANSLATE_NOOP("HRFListCommands", "S&idebar"), "F9", "sidebar",
      QT_TRANSLATE_NOOP("HRFListCommands", "Show or hide the sidebar"), &Window::toggleSidebar},
@@ -134,6 +146,13 @@ constexpr QLatin1StringView contextCommands[] = {"editCell"_L1, "filterColumn"_L
                                                  "reveal"_L1,   "copyPath"_L1,     ""_L1,
                                                  "strip"_L1,    "remove"_L1};
 
+/// Menus inside a menu are not cleared with it.
+void empty(QMenu &menu)
+{
+    menu.clear();
+    qDeleteAll(menu.findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
+}
+
 } // namespace
 
 HRFListCommands::HRFListCommands(HRFListWindow &window) : QObject(&window), m_window(window)
@@ -157,6 +176,7 @@ QAction *HRFListCommands::makeAction(int row)
     const QString shortcut = action->shortcut().toString(QKeySequence::NativeText);
     const QString toolTip = *command.toolTip ? tr(command.toolTip) : action->toolTip();
     action->setToolTip(shortcut.isEmpty() ? toolTip : u"%1 (%2)"_s.arg(toolTip, shortcut));
+    connect(action, &QAction::triggered, &m_window, &HRFListWindow::commitEditing); // comes first
     connect(action, &QAction::triggered, &m_window, command.perform);
     return action;
 }
@@ -202,6 +222,7 @@ void HRFListCommands::addRecentFolders(QMenu &menu)
         for (const QString &path : paths) {
             const QAction *action = folders->addAction(QString(path).replace(u'&', u"&&"_s));
             connect(action, &QAction::triggered, &m_window, [this, path] {
+                m_window.commitEditing();
                 m_window.document().importFileAtPath(HRFFileReference::fromPath(path));
             });
         }
@@ -213,12 +234,12 @@ void HRFListCommands::addMenusOfColumns(QMenu &menu)
 {
     QMenu *columns = menu.addMenu(tr("&Columns"));
     connect(columns, &QMenu::aboutToShow, this, [this, columns] {
-        columns->clear();
+        empty(*columns);
         m_window.header().addColumnActions(*columns);
     });
     QMenu *order = menu.addMenu(tr("&Sort By"));
     connect(order, &QMenu::aboutToShow, this, [this, order] {
-        order->clear();
+        empty(*order);
         m_window.header().addSortActions(*order);
     });
 }
@@ -250,9 +271,8 @@ void HRFListCommands::validate()
         if (row.isPossible)
             m_actions.value(row.name)->setEnabled((m_window.*row.isPossible)());
     const QUndoStack &stack = m_window.document().undoManager();
-    const auto named = [](const QString &verb, const QString &what) {
-        return what.isEmpty() ? verb : verb + u" “"_s + what + u"”"_s;
-    };
-    action(u"undo"_s)->setText(named(tr("&Undo"), stack.undoText()));
-    action(u"redo"_s)->setText(named(tr("&Redo"), stack.redoText()));
+    action(u"undo"_s)->setText(stack.undoText().isEmpty() ? tr("&Undo")
+                                                          : tr("&Undo “%1”").arg(stack.undoText()));
+    action(u"redo"_s)->setText(stack.redoText().isEmpty() ? tr("&Redo")
+                                                          : tr("&Redo “%1”").arg(stack.redoText()));
 }

@@ -1,6 +1,7 @@
 #include "app/HRFListView.h"
 
 #include "app/HRFCellDelegate.h"
+#include "app/HRFCellEditors.h"
 #include "app/HRFFileURIs.h"
 #include "app/HRFIcons.h"
 #include "app/HRFListColumn.h"
@@ -30,6 +31,7 @@ const QString heightKey = u"lirra.display.rowHeight"_s;
 /// Heights of rows to choose from; they are never lower than a line of text.
 constexpr std::array heights{24, 32, 48, 72, 104};
 constexpr int usualStep = 0;
+constexpr int padding = 8;
 
 } // namespace
 
@@ -100,14 +102,20 @@ void HRFListView::zoom(int steps)
 void HRFListView::rowHeightDidChange()
 {
     restoreRowHeight();
-    constexpr int padding = 8;
-    horizontalHeader()->resizeSection(HRFListColumns::indexOf(u"artwork"_s), rowHeight() + padding);
+    fitColumn(HRFListColumns::indexOf(u"artwork"_s));
     scrollToSelection();
+}
+
+void HRFListView::fitColumn(int column)
+{
+    if (HRFListColumns::all()[std::size_t(column)].kind == HRFListColumnKind::Thumbnail)
+        horizontalHeader()->resizeSection(column, rowHeight() + padding);
+    else
+        resizeColumnToContents(column);
 }
 
 void HRFListView::setRowHeightStep(int step)
 {
-    constexpr int padding = 8;
     m_step = step;
     verticalHeader()->setDefaultSectionSize(
         std::max(heights[std::size_t(step)], fontMetrics().height() + padding));
@@ -129,6 +137,15 @@ void HRFListView::editCurrent()
 {
     if (currentIndex().flags() & Qt::ItemIsEditable)
         edit(currentIndex());
+}
+
+void HRFListView::commitEditor()
+{
+    QWidget *editor = indexWidget(currentIndex());
+    if (!editor || !HRFCheckCellEditor(*editor))
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 void HRFListView::keyPressEvent(QKeyEvent *event)

@@ -20,9 +20,13 @@ public:
     void zoom(int steps);
     bool canZoom(int steps) const;
 
+    /// Makes a column as wide as what stands in it.
+    void fitColumn(int column);
     void scrollToSelection();
     /// Opens the editor of the current cell.
     void editCurrent();
+    /// Takes what was typed into the editor of a cell, and closes it, if it is a value.
+    void commitEditor();
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

@@ -125,10 +125,8 @@ void HRFListWindow::focusFilterField()
 void HRFListWindow::filterCurrentColumn()
 {
     const int current = m_view->currentIndex().column();
-    const int column = current > 0 && !m_header->isSectionHidden(current)
-        ? current
-        : m_header->shownColumns().back();
-    m_header->requestFilter(column);
+    m_header->requestFilter(current > 0 && hasCurrentColumn() ? current
+                                                              : m_header->shownColumns().back());
 }
 
 void HRFListWindow::clearFilters()
@@ -149,6 +147,27 @@ void HRFListWindow::editCell()
 void HRFListWindow::strip()
 {
     m_list.strip();
+}
+
+void HRFListWindow::moveColumn(int step)
+{
+    m_header->moveColumn(m_view->currentIndex().column(), step);
+    m_view->scrollTo(m_view->currentIndex());
+}
+
+void HRFListWindow::moveColumnLeft()
+{
+    moveColumn(-1);
+}
+
+void HRFListWindow::moveColumnRight()
+{
+    moveColumn(1);
+}
+
+void HRFListWindow::fitColumnWidth()
+{
+    m_view->fitColumn(m_view->currentIndex().column());
 }
 
 void HRFListWindow::makeRowsHigher()
@@ -252,6 +271,22 @@ bool HRFListWindow::hasSelection() const
 bool HRFListWindow::hasFilter() const
 {
     return m_filter->isActive();
+}
+
+bool HRFListWindow::canMoveColumnLeft() const
+{
+    return m_header->canMoveColumn(m_view->currentIndex().column(), -1);
+}
+
+bool HRFListWindow::canMoveColumnRight() const
+{
+    return m_header->canMoveColumn(m_view->currentIndex().column(), 1);
+}
+
+bool HRFListWindow::hasCurrentColumn() const
+{
+    const int column = m_view->currentIndex().column();
+    return column >= 0 && !m_header->isSectionHidden(column);
 }
 
 bool HRFListWindow::canMakeRowsHigher() const

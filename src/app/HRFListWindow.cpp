@@ -20,7 +20,6 @@
 #include "document/HRFPlaylist.h"
 #include "kit/HRFUserDefaults.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -146,6 +145,10 @@ void HRFListWindow::connectDocument()
     connect(m_header, &HRFListHeader::filterRequested, this, &HRFListWindow::showFilterMenu);
     connect(m_header, &HRFListHeader::shownColumnsDidChange, this,
             [this] { m_filter->setSearchedColumns(m_header->shownColumns()); });
+    connect(m_header, &HRFListHeader::shownColumnsDidChange, this, &HRFListWindow::validateSoon);
+    connect(m_header, &QHeaderView::sectionMoved, this, &HRFListWindow::validateSoon);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentColumnChanged, this,
+            &HRFListWindow::validateSoon);
     connect(m_view, &QWidget::customContextMenuRequested, this, &HRFListWindow::showRowMenu);
 }
 
@@ -185,6 +188,13 @@ void HRFListWindow::showRowMenu(const QPoint &position)
     QMenu menu(this);
     m_commands->fillContextMenu(menu);
     menu.exec(m_view->viewport()->mapToGlobal(position));
+}
+
+void HRFListWindow::commitEditing()
+{
+    m_view->commitEditor();
+    m_sidebar->commit();
+    m_list.managedObjectContext().processPendingChanges();
 }
 
 void HRFListWindow::showWindows()
@@ -247,16 +257,9 @@ void HRFListWindow::scrollToSelection()
     m_view->scrollToSelection();
 }
 
-void HRFListWindow::commit() const
-{
-    m_sidebar->commit();
-    if (m_view->isAncestorOf(QApplication::focusWidget()))
-        m_view->setFocus(); // the editor of a cell ends when it loses the focus
-}
-
 void HRFListWindow::closeEvent(QCloseEvent *event)
 {
-    commit();
+    commitEditing();
     event->ignore(); // the window goes when its list does
     if (!hasAttachedSheet())
         m_application.close(*this);

@@ -39,6 +39,9 @@ public:
     QLineEdit &filterField() const { return *m_filterField; }
     HRFSidebar &sidebar() const { return *m_sidebar; }
 
+    /// Takes what is being typed in a cell or in the sidebar, before anything else is done.
+    void commitEditing();
+
     void showWindows() override;
     bool hasAttachedSheet() const override;
     void runAddPanel(const QStringList &fileTypes) override;
@@ -47,9 +50,6 @@ public:
     void focusInitialControl() override;
     void scrollToSelection() override;
     void reloadArtworkPane() override;
-
-    /// Takes what has been typed and not confirmed.
-    void commit() const;
 
     // Commands:
     void newList();
@@ -70,6 +70,9 @@ public:
     void showPreferences();
     void editCell();
     void strip();
+    void moveColumnLeft();
+    void moveColumnRight();
+    void fitColumnWidth();
     void makeRowsHigher();
     void makeRowsLower();
     void makeRowsUsual();
@@ -90,6 +93,9 @@ public:
     bool hasFiles() const;
     bool hasSelection() const;
     bool hasFilter() const;
+    bool canMoveColumnLeft() const;
+    bool canMoveColumnRight() const;
+    bool hasCurrentColumn() const;
     bool canMakeRowsHigher() const;
     bool canMakeRowsLower() const;
     bool canMakeRowsUsual() const;
@@ -113,6 +119,7 @@ private:
     void showRowMenu(const QPoint &position);
     void addURLs(const QList<QUrl> &urls);
     void rememberGeometry() const;
+    void moveColumn(int step);
     void validateSoon() { m_validation.start(); }
 
     HRFPlaylist &m_list;

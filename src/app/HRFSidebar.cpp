@@ -36,6 +36,16 @@ QHash<QString, HRFPropertySet> changedProperties(const HRFContextChanges &change
     return named;
 }
 
+/// Whatever their order is.
+bool areSame(std::vector<HRFObjectID> records, std::vector<HRFObjectID> others)
+{
+    if (records.size() != others.size())
+        return false;
+    std::ranges::sort(records);
+    std::ranges::sort(others);
+    return records == others;
+}
+
 } // namespace
 
 HRFSidebar::HRFSidebar(HRFPlaylist &list, QWidget *parent)
@@ -77,6 +87,11 @@ HRFSidebar::HRFSidebar(HRFPlaylist &list, QWidget *parent)
     selectionDidChange();
 }
 
+HRFSidebar::~HRFSidebar()
+{
+    removeGroups();
+}
+
 void HRFSidebar::changeEvent(QEvent *event)
 {
     QScrollArea::changeEvent(event);
@@ -97,11 +112,21 @@ void HRFSidebar::chooseFaintColour()
     setPalette(own);
 }
 
-void HRFSidebar::makeGroups()
+/// A field that had the focus when it goes would take its text while it is no field any more.
+void HRFSidebar::removeGroups()
 {
-    commit();
+    finishEditing();
+    if (QWidget *focused = window()->focusWidget();
+        m_groupsPane && m_groupsPane->isAncestorOf(focused))
+        focused->clearFocus();
     m_stale.clear();
     m_groups.clear();
+    delete std::exchange(m_groupsPane, nullptr);
+}
+
+void HRFSidebar::makeGroups()
+{
+    removeGroups();
     auto *groups = new QWidget(m_content);
     auto *layout = new QVBoxLayout(groups);
     layout->setContentsMargins(margin / 2, 0, margin / 2, margin);
@@ -109,9 +134,19 @@ void HRFSidebar::makeGroups()
          ++index)
         layout->addWidget(makeGroup(index, groups));
     layout->addStretch();
-    delete std::exchange(m_groupsPane, groups);
+    m_groupsPane = groups;
     m_content->layout()->addWidget(groups);
+    chainFocus();
     makeAllStale();
+}
+
+/// New widgets come last in the window's order, but Tab leads through the sidebar from its top.
+void HRFSidebar::chainFocus()
+{
+    QWidget *previous = m_artwork;
+    for (QWidget *widget : m_groupsPane->findChildren<QWidget *>())
+        if (widget->focusPolicy() & Qt::TabFocus)
+            setTabOrder(std::exchange(previous, widget), widget);
 }
 
 HRFSidebarGroup *HRFSidebar::makeGroup(std::size_t index, QWidget *parent)
@@ -147,6 +182,14 @@ void HRFSidebar::commit()
             field->commit();
 }
 
+void HRFSidebar::finishEditing()
+{
+    commit();
+    for (const HRFSidebarGroup *group : m_groups)
+        for (HRFSidebarField *field : group->fields())
+            field->revert();
+}
+
 void HRFSidebar::focusFirstField()
 {
     for (const HRFSidebarGroup *group : m_groups) {
@@ -179,10 +222,14 @@ void HRFSidebar::showEvent(QShowEvent *event)
 
 void HRFSidebar::selectionDidChange()
 {
-    commit(); // what was typed was meant for the records that were selected
     const auto &selected = m_list.fileController().selectedObjects();
-    m_records.resize(selected.size());
-    std::ranges::transform(selected, m_records.begin(), &HRFMetaFile::objectID);
+    std::vector<HRFObjectID> records(selected.size());
+    std::ranges::transform(selected, records.begin(), &HRFMetaFile::objectID);
+    if (areSame(records, m_records))
+        commit(); // only their order is another one
+    else
+        finishEditing(); // what was typed was meant for the records that were selected
+    m_records = std::move(records);
     makeAllStale();
 }
 

@@ -25,6 +25,7 @@ class HRFSidebar : public QScrollArea
     Q_OBJECT
 public:
     HRFSidebar(HRFPlaylist &list, QWidget *parent);
+    ~HRFSidebar() override;
 
     /// Takes what was typed last.
     void commit();
@@ -41,6 +42,10 @@ protected:
 private:
     void chooseFaintColour();
     void makeGroups();
+    void removeGroups();
+    void chainFocus();
+    /// Takes what was typed, but for what is no value: that is gone.
+    void finishEditing();
     HRFSidebarGroup *makeGroup(std::size_t index, QWidget *parent);
     void selectionDidChange();
     void contextDidChange(const HRFContextChanges &changes);

@@ -1,13 +1,15 @@
+#include "app/HRFControlWalk.h"
 #include "app/HRFFilterMenu.h"
+#include "app/HRFSidebar.h"
 #include "app/HRFTestWithWindow.h"
 #include "operations/HRFProgress.h"
 #include "support/HRFHeldQueue.h"
 
-#include <QAbstractButton>
 #include <QBuffer>
 #include <QClipboard>
 #include <QImage>
 #include <QLabel>
+#include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -344,30 +346,93 @@ TEST_F(HRFListWindowTest, letsTheUserCancelWhatIsNotWritten)
     EXPECT_EQ(onDisk(music(u"a.mp3"_s), HRFTagKey::title), u"Two"_s);
 }
 
+/// Commands that take no focus away: what was typed was meant to be kept.
+TEST_F(HRFListWindowTest, takesWhatIsBeingTypedBeforeItEnds)
+{
+    makeFiles();
+    dropFolder(3);
+    bool hasEnded = false;
+    QObject::connect(application.get(), &HRFApplicationDelegate::didTerminate,
+                     [&] { hasEnded = true; });
+    click(cell(0, u"title"_s));
+    const QString name = cell(0, u"fileName"_s).data().toString();
+    window->commands().action(u"editCell"_s)->trigger();
+    QTest::keyClicks(window->findChild<QLineEdit *>(u"cellEditor"_s), u"Typed"_s);
+    application->newList().commands().action(u"quit"_s)->trigger();
+    waitUntil([&] { return hasEnded; });
+    EXPECT_EQ(onDisk(music(name), HRFTagKey::title), u"Typed"_s);
+}
+
+TEST_F(HRFListWindowTest, keepsACellOpenThatHasNoValue)
+{
+    makeFiles();
+    dropFolder(3);
+    window->header().setColumnShown(column(u"releaseTime"_s), true);
+    click(cell(0, u"releaseTime"_s));
+    window->commands().action(u"editCell"_s)->trigger();
+    const QPointer editor(window->findChild<QLineEdit *>(u"cellEditor"_s));
+    QTest::keyClicks(editor, u"2023-02-29"_s);
+    window->filterField().setFocus();
+    window->commands().action(u"selectAll"_s)->trigger();
+    ASSERT_TRUE(editor && editor->isVisible());
+    EXPECT_FALSE(shownError().isEmpty());
+    EXPECT_EQ(editor->accessibleDescription(), shownError());
+    editor->selectAll();
+    QTest::keyClicks(editor, u"2023-02"_s);
+    EXPECT_EQ(editor->accessibleDescription(), QString());
+    window->commands().action(u"filter"_s)->trigger();
+    EXPECT_EQ(cell(0, u"releaseTime"_s).data(HRFListModel::Raw).toDate(), QDate(2023, 2, 1));
+}
+
+TEST_F(HRFListWindowTest, arrangesColumnsByCommands)
+{
+    makeFiles();
+    dropFolder(3);
+    click(cell(0, u"title"_s));
+    QCoreApplication::processEvents(); // validates commands
+    const auto shown = [&] { return window->header().shownColumns(); };
+    const std::vector<int> before = shown();
+    const auto first = std::ranges::find(before, column(u"title"_s)) - before.begin();
+    window->header().setColumnShown(before[std::size_t(first - 1)], false); // is passed over
+    window->commands().action(u"moveColumnLeft"_s)->trigger();
+    EXPECT_EQ(shown().front(), column(u"title"_s));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(window->commands().action(u"moveColumnLeft"_s)->isEnabled());
+    window->commands().action(u"moveColumnRight"_s)->trigger();
+    EXPECT_EQ(shown()[1], column(u"title"_s));
+    window->header().resizeSection(column(u"title"_s), 400);
+    window->commands().action(u"fitColumnWidth"_s)->trigger();
+    EXPECT_LT(window->header().sectionSize(column(u"title"_s)), 200);
+
+    QMenu menu;
+    window->header().sortBy(column(u"artist"_s), false);
+    window->header().addSortActions(menu);
+    for (const QAction *action : menu.findChild<QMenu *>()->actions()) {
+        EXPECT_NE(action->text(), u"Artist"_s);
+        if (action->text() == u"Title"_s)
+            Q_EMIT const_cast<QAction *>(action)->triggered();
+    }
+    EXPECT_THAT(texts(u"title"_s), ElementsAre(u"Three"_s, u"Two"_s, u"One"_s));
+}
+
 /// Who cannot see the screen is told what a control is.
 TEST_F(HRFListWindowTest, namesItsControls)
 {
     makeFiles();
     dropFolder(3);
     window->header().requestFilter(column(u"artist"_s));
-    int controls = 0;
-    for (QWidget *widget : window->findChildren<QWidget *>()) {
-        const auto *button = qobject_cast<QAbstractButton *>(widget);
-        const bool isOwnedByStyle = widget->objectName().startsWith(u"qt_"_s)
-            || widget->parentWidget()->inherits("QLineEdit")
-            || (button && button->inherits("QTableCornerButton"));
-        if (widget->focusPolicy() == Qt::NoFocus && !button)
-            continue;
-        if (isOwnedByStyle || widget->objectName() == u"qt_scrollarea_viewport"_s)
-            continue;
-        ++controls;
-        const QString text = button ? button->text() : QString();
-        EXPECT_FALSE((widget->accessibleName() + text).isEmpty())
-            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
-        EXPECT_FALSE(widget->objectName().isEmpty() && text.isEmpty())
-            << widget->metaObject()->className();
-    }
-    EXPECT_GT(controls, 8);
+    for (const QString &name : {u"editCell"_s, u"configureSidebar"_s})
+        window->commands().action(name)->trigger();
+    EXPECT_GT(HRFCheckControls(*window), 30);
+    auto *stars = QAccessible::queryAccessibleInterface(
+        window->sidebar().findChild<QWidget *>(u"field.rating"_s));
+    stars->valueInterface()->setCurrentValue(9);
+    EXPECT_EQ(stars->valueInterface()->currentValue(), stars->valueInterface()->maximumValue());
+    EXPECT_EQ(cell(0, u"rating"_s).data(HRFListModel::Raw), 255);
+    auto *status =
+        QAccessible::queryAccessibleInterface(window->findChild<QLabel *>(u"statusLine"_s));
+    waitUntil([&] { return status->text(QAccessible::Name).startsWith(u"3 files"_s); });
+    waitForWork();
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "app/HRFApplicationDelegate.h"
+#include "app/HRFControlWalk.h"
 #include "app/HRFListCommands.h"
 #include "app/HRFListView.h"
 #include "app/HRFListWindow.h"
@@ -68,14 +69,14 @@ protected:
             texts += shown(input);
         return texts;
     }
-    static void change(QWidget *input)
+    void change(QWidget *input) const
     {
         if (auto *button = qobject_cast<QAbstractButton *>(input))
             button->click();
         else if (qobject_cast<QComboBox *>(input))
             QTest::keyClick(input, Qt::Key_Down);
         else
-            QTest::keyClicks(input, u"/music\r"_s);
+            QTest::keyClicks(input, path(u""_s) + u'\r');
     }
 
     HRFScriptedInteraction user;
@@ -123,20 +124,24 @@ TEST_F(HRFPreferencesTest, storesEveryChangeAndRestoresDefaults)
 TEST_F(HRFPreferencesTest, tellsAssistiveProgramsWhatEachWidgetIs)
 {
     const HRFPreferencesWindow window;
-    int count = 0;
-    for (const QWidget *widget : window.findChildren<QWidget *>()) {
-        const auto *button = qobject_cast<const QAbstractButton *>(widget);
-        const bool isPart = widget->parent()->inherits("QComboBox")
-            || widget->objectName().startsWith("qt_"_L1) || !widget->isEnabled()
-            || widget->inherits("QLineEditIconButton") || widget->inherits("QTabBar")
-            || widget->parent()->inherits("QTabBar");
-        if (isPart || !(widget->focusPolicy() & Qt::TabFocus))
-            continue;
-        ++count;
-        EXPECT_FALSE(widget->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
-            << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
-    }
-    EXPECT_GT(count, int(HRFPreferenceRows().size()));
+    EXPECT_GT(HRFCheckControls(window), int(HRFPreferenceRows().size()));
+}
+
+TEST_F(HRFPreferencesTest, takesNoFolderThatIsNotThere)
+{
+    const QString key = u"com.harrowfield.lirra.startupDirectoryURL"_s;
+    const HRFPreferencesWindow window;
+    auto *folder = window.findChild<QLineEdit *>(key);
+    const QString usual = folder->accessibleDescription();
+    QTest::keyClicks(folder, path(u"nowhere"_s) + u'\r');
+    EXPECT_FALSE(onDisk(key).isValid());
+    EXPECT_EQ(folder->text(), path(u"nowhere"_s));
+    EXPECT_EQ(folder->accessibleDescription(), folder->toolTip());
+    EXPECT_NE(folder->accessibleDescription(), usual);
+    folder->selectAll();
+    QTest::keyClicks(folder, path(u""_s) + u'\r');
+    EXPECT_EQ(onDisk(key), path(u""_s));
+    EXPECT_EQ(folder->accessibleDescription(), usual);
 }
 
 TEST_F(HRFPreferencesTest, appliesAnEncodingBehindTheWorkThatIsQueued)

@@ -121,7 +121,19 @@ TEST_F(HRFSidebarTest, writesOnlyWhatWasTyped)
     enter(field(u"releaseTime"_s), u"2023-02-29"_s); // there was no such day
     EXPECT_EQ(field(u"releaseTime"_s)->text(), u"2023-02-29"_s); // to be put right
     enter(field(u"releaseTime"_s), u"2023-02-29"_s, Qt::Key_Tab);
+    EXPECT_EQ(field(u"releaseTime"_s)->text(), u"2023-02-29"_s);
+    sortBy(u"title"_s);
+    sortBy(u"artist"_s, Qt::ShiftModifier);
+    EXPECT_EQ(field(u"releaseTime"_s)->text(), u"2023-02-29"_s); // of the same files
+    EXPECT_EQ(field(u"releaseTime"_s)->toolTip(), shownError());
+    QTest::keyClick(field(u"releaseTime"_s), Qt::Key_Escape);
     EXPECT_EQ(field(u"releaseTime"_s)->text(), QString());
+    EXPECT_EQ(shownError(), QString());
+    enter(field(u"releaseTime"_s), u"x"_s);
+    click(cell(0, u"title"_s)); // other files: what was typed was not meant for them
+    EXPECT_EQ(field(u"releaseTime"_s)->text(), QString());
+    window->commands().action(u"selectAll"_s)->trigger();
+    waitForText(u"artist"_s, QString());
     EXPECT_TRUE(field(u"fileName"_s)->isReadOnly()); // three files cannot have one name
     EXPECT_THAT(filesSay(HRFTagKey::artist), ElementsAre(u"Ann"_s, u"Bob"_s, u"Ann"_s));
     EXPECT_FALSE(window->canUndo());
@@ -164,6 +176,69 @@ TEST_F(HRFSidebarTest, givesWhatWasTypedToTheFilesItWasTypedFor)
     window->document().setSelectedFiles({&window->model().recordAt(1)}); // not by a click
     waitForText(u"title"_s, u"One"_s);
     EXPECT_THAT(filesSay(HRFTagKey::title), ElementsAre(u"Typed"_s, u"One"_s, u"Three"_s));
+}
+
+TEST_F(HRFSidebarTest, takesWhatIsTypedBeforeTheFilesLeaveTheList)
+{
+    makeFiles();
+    dropFolder(3);
+    for (const QString &command : {u"remove"_s, u"clear"_s}) {
+        click(cell(0, u"title"_s));
+        const QString name = cell(0, u"fileName"_s).data().toString();
+        waitForText(u"title"_s, cell(0, u"title"_s).data().toString());
+        field(u"title"_s)->setFocus();
+        field(u"title"_s)->setText(command);
+        window->commands().action(command)->trigger();
+        waitForWrites();
+        EXPECT_EQ(onDisk(music(name), HRFTagKey::title), command);
+    }
+    EXPECT_EQ(window->model().rowCount(), 0);
+}
+
+TEST_F(HRFSidebarTest, choosesStarsByWhatIsMeantForThem)
+{
+    constexpr int none = -1;
+    constexpr int differing = 9;
+    const auto click = [](Qt::MouseButton button, int x) {
+        return [=](QWidget *stars) { QTest::mouseClick(stars, button, {}, {x, 10}); };
+    };
+    const auto key = [](Qt::Key pressed, Qt::KeyboardModifiers modifiers = {}) {
+        return [=](QWidget *stars) { QTest::keyClick(stars, pressed, modifiers); };
+    };
+    const struct
+    {
+        int before;
+        std::function<void(QWidget *)> act;
+        int chosen;
+    } cases[] = {
+        {3, click(Qt::LeftButton, 25), 2},
+        {2, click(Qt::LeftButton, 25), 0}, // the last of them
+        {3, click(Qt::LeftButton, 150), none}, // beside them
+        {3, click(Qt::RightButton, 25), none},
+        {3, key(Qt::Key_Left), 2},
+        {0, key(Qt::Key_Left), none},
+        {5, key(Qt::Key_Right), none},
+        {3, key(Qt::Key_3), none},
+        {3, key(Qt::Key_0, Qt::ControlModifier), none},
+        {3, key(Qt::Key_Delete), 0},
+        {differing, key(Qt::Key_Left), none},
+        {differing, click(Qt::LeftButton, 150), none},
+        {differing, key(Qt::Key_Right), 1},
+        {differing, key(Qt::Key_Backspace), 0},
+        {differing, key(Qt::Key_0), 0},
+    };
+    for (const auto &test : cases) {
+        HRFStarsEditor stars(nullptr);
+        stars.resize(200, 20);
+        if (test.before == differing)
+            stars.setDiffering(u"Several"_s);
+        else
+            stars.setStars(test.before);
+        int chosen = none;
+        QObject::connect(&stars, &HRFStarsEditor::didChoose, [&] { chosen = stars.stars(); });
+        test.act(&stars);
+        EXPECT_EQ(chosen, test.chosen) << "case " << &test - cases;
+    }
 }
 
 TEST_F(HRFSidebarTest, showsAndSetsOtherKindsOfValues)
@@ -233,7 +308,16 @@ TEST_F(HRFSidebarTest, remembersWhatItShows)
     window->commands().action(u"configureSidebar"_s)->trigger();
     auto *dialog = window->findChild<HRFSidebarDialog *>();
     auto *groups = dialog->findChild<QListWidget *>(u"groups"_s);
-    groups->item(0)->setText(u"Mine"_s);
+    const auto rename = [&](const QString &name) {
+        groups->editItem(groups->item(0));
+        auto *editor = groups->findChildren<QLineEdit *>(u"groupName"_s).constLast();
+        editor->setText(name);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+    };
+    rename(u"Mine"_s);
+    rename(u" "_s);
+    EXPECT_EQ(shownError(), u"A group needs a name."_s);
     groups->setCurrentRow(1);
     dialog->findChild<QPushButton *>(u"removeGroup"_s)->click(); // frees its fields
     groups->setCurrentRow(0);
@@ -245,6 +329,14 @@ TEST_F(HRFSidebarTest, remembersWhatItShows)
     dialog->accept();
     waitUntil([&] { return field(u"composer"_s)->isVisible(); });
     const auto titles = window->sidebar().findChildren<QToolButton *>(u"title"_s);
+    EXPECT_EQ(window->sidebar().artworkPane().nextInFocusChain(), titles.front());
+    QWidget *last = titles.front(); // with a Tab for every control from top to bottom
+    for (QWidget *next = last->nextInFocusChain(); next != window; next = next->nextInFocusChain())
+        if (window->sidebar().isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus
+            && next->isVisible()) {
+            const auto top = [](QWidget *widget) { return widget->mapToGlobal(QPoint()).y(); };
+            EXPECT_GE(top(next) + 8, top(std::exchange(last, next)));
+        }
     titles.at(1)->click();
     const HRFViewConfigManager::Groups chosen = HRFViewConfigManager::sharedManager().groups();
     window->commands().action(u"sidebar"_s)->trigger();

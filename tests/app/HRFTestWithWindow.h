@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPointer>
@@ -133,6 +134,14 @@ protected:
         if (editor && editor->isVisible()) // Return was not accepted
             QTest::keyClick(editor, Qt::Key_Escape);
         delete editor; // so that it is not found again
+    }
+    /// What is said below a field.
+    QString shownError() const
+    {
+        for (const QLabel *label : window->findChildren<QLabel *>(QStringLiteral("inputError")))
+            if (label->isVisible())
+                return label->text();
+        return {};
     }
     static QString onDisk(const HRFFileReference &file, HRFTagKey key)
     {

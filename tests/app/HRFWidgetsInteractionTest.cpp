@@ -1,5 +1,6 @@
 #include "app/HRFWidgetsInteraction.h"
 
+#include "app/HRFControlWalk.h"
 #include "app/HRFInstance.h"
 #include "app/HRFTestDialogs.h"
 #include "operations/HRFProgress.h"
@@ -44,6 +45,7 @@ const HRFAlert question{.message = u"Go on?"_s,
 TEST_F(HRFWidgetsInteractionTest, answersWithTheButtonThatIsPressed)
 {
     const HRFAlertAnswer fixed = ask(question, [](QDialog &shown) {
+        EXPECT_GE(HRFCheckControls(shown), 4);
         shown.findChild<QCheckBox *>()->setChecked(true);
         press(shown, u"Fix"_s);
     });
@@ -95,6 +97,7 @@ TEST_F(HRFWidgetsInteractionTest, cancelsWorkFromItsSheet)
     EXPECT_FALSE(dialog(u"progressSheet"_s)); // quick work shows nothing
     waitUntil([] { return dialog(u"progressSheet"_s) != nullptr; });
     QDialog *sheet = dialog(u"progressSheet"_s);
+    EXPECT_EQ(HRFCheckControls(*sheet), 1);
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_TRUE(progress->isCancelled());
     EXPECT_TRUE(sheet->isVisible()); // until the work has ended
