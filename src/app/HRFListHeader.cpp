@@ -280,10 +280,11 @@ bool HRFListHeader::showsFilterButton(int column) const
 void HRFListHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
 {
     QHeaderView::initStyleOptionForIndex(option, column);
-    if (const int place = sortPlace(column); place > 0)
+    if (const int place = sortPlace(column); place > 0) {
         option->sortIndicator = m_controller.sortDescriptors()[std::size_t(place - 1)].ascending
             ? QStyleOptionHeader::SortDown
             : QStyleOptionHeader::SortUp;
+    }
     int room = option->rect.width() - 2 * sideMargin - sortRect(column).width();
     if (showsFilterButton(column))
         room -= buttonSize + sideMargin;
@@ -291,10 +292,10 @@ void HRFListHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int colu
     if (!(option->textAlignment & Qt::AlignRight))
         return;
     option->text += QChar::Nbsp; // keeps away from the next title
-    if (showsSortPlace(column)) // and from the number
-        option->text +=
-            QString((numberSize + sideMargin) / option->fontMetrics.horizontalAdvance(QChar::Nbsp),
-                    QChar::Nbsp);
+    if (!showsSortPlace(column))
+        return;
+    const int blank = option->fontMetrics.horizontalAdvance(QChar::Nbsp);
+    option->text += QString((numberSize + sideMargin) / std::max(blank, 1), QChar::Nbsp);
 }
 
 QSize HRFListHeader::sectionSizeFromContents(int column) const
