@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeDatabase>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextEdit>
@@ -33,17 +34,28 @@ QDialogButtonBox::ButtonRole roleOf(const HRFAlertButton &button)
     }
 }
 
-/// The one icon of its kind in an alert about a file; otherwise the program's own sign.
-QIcon iconOf(const HRFAlert &alert)
+/// That of the file that an alert is about; null where there is none.
+QIcon fileIconOf(const HRFAlert &alert)
 {
-    if (alert.isCritical)
-        return HRFIcons::named(u"warning"_s);
     if (alert.icon.isNull())
-        return HRFIcons::named(u"question"_s);
+        return {};
     const QMimeType type = QMimeDatabase().mimeTypeForFile(alert.icon.displayPath());
     const QIcon icon = QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName()));
     const bool isAudio = type.name().startsWith(u"audio/"_s);
-    return icon.isNull() ? HRFIcons::named(isAudio ? u"audio"_s : u"question"_s) : icon;
+    return icon.isNull() && isAudio ? HRFIcons::named(u"audio"_s) : icon;
+}
+
+/// The file, with a warning sign on it when something is wrong or in danger; without one the sign
+/// alone.
+void paintIcon(QPainter &painter, const QRect &place, const HRFAlert &alert)
+{
+    const QIcon sign = HRFIcons::named(alert.isCritical ? u"warning"_s : u"question"_s);
+    const QIcon file = fileIconOf(alert);
+    if (file.isNull())
+        return sign.paint(&painter, place);
+    file.paint(&painter, place);
+    if (alert.isCritical)
+        sign.paint(&painter, QRect(place.center(), place.bottomRight()));
 }
 
 /// Text that can be copied. A name without spaces that does not fit into a line is broken anywhere.
@@ -117,8 +129,14 @@ void HRFAlertDialog::makeWidgets()
 QWidget *HRFAlertDialog::makeIcon()
 {
     constexpr int size = 44;
+    QPixmap picture(QSize(size, size) * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paintIcon(painter, {0, 0, size, size}, m_alert);
+    painter.end();
     auto *icon = new QLabel(this);
-    icon->setPixmap(iconOf(m_alert).pixmap(size));
+    icon->setPixmap(picture);
     return icon;
 }
 

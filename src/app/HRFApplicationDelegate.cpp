@@ -68,8 +68,21 @@ void HRFApplicationDelegate::close(HRFListWindow &window)
     list.close();
 }
 
+bool HRFApplicationDelegate::presentQuestion()
+{
+    return std::ranges::any_of(m_windows,
+                               [](const auto &window) { return window->presentQuestion(); });
+}
+
 void HRFApplicationDelegate::quit()
 {
+    if (!presentQuestion())
+        terminate();
+}
+
+void HRFApplicationDelegate::terminate()
+{
+    Q_EMIT willTerminate();
     for (const auto &window : m_windows)
         window->commitEditing();
     m_documents.terminate([this] {

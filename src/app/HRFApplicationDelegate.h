@@ -29,10 +29,17 @@ public:
 
     /// Closes a list's window, or ends the program when it is the last one.
     void close(HRFListWindow &window);
-    /// Ends the program as soon as no work on files is pending.
+    /// Brings a dialog that waits for the user to the front; answers whether there is one.
+    bool presentQuestion();
+    /// The same as terminate(), unless the user has to answer a question first.
     void quit();
+    /// Ends the program as soon as no work on files is pending. Questions on the screen are taken
+    /// for cancelled then.
+    void terminate();
 
 Q_SIGNALS:
+    /// The end has begun; no more files can be taken.
+    void willTerminate();
     /// Nothing stands in the way of the end.
     void didTerminate();
 

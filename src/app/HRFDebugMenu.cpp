@@ -79,8 +79,10 @@ HRFDebugMenu::HRFDebugMenu(HRFApplicationDelegate &application, QWidget *parent)
 /// Work on files is finished first, and windows leave no settings behind afterwards.
 void HRFDebugMenu::endProgramAnd(const std::function<void()> &reset)
 {
+    if (m_application.presentQuestion())
+        return;
     connect(&m_application, &HRFApplicationDelegate::didTerminate, &m_application, reset);
-    m_application.quit();
+    m_application.terminate();
 }
 
 void HRFDebugMenu::showIfWanted()

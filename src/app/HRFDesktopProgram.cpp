@@ -1,6 +1,7 @@
 #include "app/HRFDesktopProgram.h"
 
 #include "app/HRFApplicationDelegate.h"
+#include "app/HRFDesktopApplication.h"
 #include "app/HRFIcons.h"
 #include "app/HRFInstance.h"
 #include "app/HRFTranslations.h"
@@ -12,10 +13,11 @@
 #include "store/HRFDataFolder.h"
 
 #include <CLI/CLI.hpp>
-#include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QSocketNotifier>
+#include <QThread>
 
 #include <cerrno>
 
@@ -48,27 +50,47 @@ std::vector<HRFFileReference> absolutePaths(const std::vector<std::string> &path
     return files;
 }
 
+/// Takes the data folder, or hands the files to the program that has it: then there is none. A
+/// program that starts does not take files yet, and one that ends does not any more.
+HRFResult<std::unique_ptr<HRFDataFolder>> takeFolder(const QString &path,
+                                                     const std::vector<HRFFileReference> &files)
+{
+    constexpr std::chrono::seconds patience(5);
+    constexpr unsigned long betweenTries = 50;
+    const QDeadlineTimer end(patience);
+    auto folder = HRFDataFolder::take(path);
+    while (!folder && folder.error().code == EWOULDBLOCK && !end.hasExpired()) {
+        if (HRFInstance::handOver(files, path))
+            return nullptr;
+        QThread::msleep(betweenTries);
+        folder = HRFDataFolder::take(path);
+    }
+    return folder;
+}
+
 int runWindows(const Options &options)
 {
     const HRFWidgetsInteraction interaction;
     const QString path =
         options.dataFolder.empty() ? HRFDataFolder::userFolder() : decoded(options.dataFolder);
     const auto files = absolutePaths(options.paths);
-    const auto folder = HRFDataFolder::take(path);
+    const auto folder = takeFolder(path, files);
     if (!folder) {
-        if (folder.error().code == EWOULDBLOCK && HRFInstance::handOver(files, path))
-            return EXIT_SUCCESS;
         HRFUserInteraction::current().presentError(folder.error());
         return EXIT_FAILURE;
     }
+    if (!*folder)
+        return EXIT_SUCCESS;
     HRFApplicationDelegate application;
     HRFInterruption::handleSignals(HRFInterruption::Again::EndsAtOnce);
     QSocketNotifier interruption(HRFInterruption::descriptor(), QSocketNotifier::Read);
     QObject::connect(&interruption, &QSocketNotifier::activated, &application, [&] {
         interruption.setEnabled(false);
-        application.quit();
+        application.terminate();
     });
-    const HRFInstance instance(path);
+    HRFInstance instance(path);
+    QObject::connect(&application, &HRFApplicationDelegate::willTerminate, &instance,
+                     &HRFInstance::close);
     QObject::connect(&instance, &HRFInstance::pathsDidArrive, &application,
                      &HRFApplicationDelegate::open);
     QObject::connect(
@@ -103,7 +125,7 @@ int HRFRunDesktopProgram(int argc, char **argv)
         return app.exit(stop) == 0 ? EXIT_SUCCESS : wrongUsage;
     }
     int own = 1; // the rest is not for Qt
-    const QApplication qtApplication(own, argv);
+    const HRFDesktopApplication qtApplication(own, argv);
     HRFTranslations::install();
     QApplication::setApplicationName(u"lirra"_s);
     QApplication::setApplicationDisplayName(u"Lirra"_s);

@@ -3,11 +3,9 @@
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalSocket>
 #include <QStandardPaths>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -53,6 +51,8 @@ void HRFInstance::receive(QLocalSocket *socket)
     stream >> nativePaths;
     if (!stream.commitTransaction())
         return; // there is more to come
+    if (!m_server.isListening())
+        return socket->abort();
     socket->putChar(thanks);
     socket->flush();
     socket->disconnectFromServer();
@@ -65,24 +65,17 @@ void HRFInstance::receive(QLocalSocket *socket)
 bool HRFInstance::handOver(const std::vector<HRFFileReference> &paths, const QString &dataFolder)
 {
     constexpr int patience = 5000;
-    constexpr unsigned long betweenTries = 50;
     QByteArrayList nativePaths;
     for (const HRFFileReference &path : paths)
         nativePaths.append(path.nativePath());
-    QElapsedTimer time;
-    time.start();
-    // The other one may have started a moment ago, too, and not listen yet.
-    for (; time.elapsed() < patience; QThread::msleep(betweenTries)) {
-        QLocalSocket socket;
-        socket.connectToServer(socketName(dataFolder));
-        if (!socket.waitForConnected(patience))
-            continue;
-        QDataStream stream(&socket);
-        stream.setVersion(streamVersion);
-        stream << nativePaths;
-        char answer = 0;
-        while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(patience)) { }
-        return socket.waitForReadyRead(patience) && socket.getChar(&answer) && answer == thanks;
-    }
-    return false;
+    QLocalSocket socket;
+    socket.connectToServer(socketName(dataFolder));
+    if (!socket.waitForConnected(patience))
+        return false;
+    QDataStream stream(&socket);
+    stream.setVersion(streamVersion);
+    stream << nativePaths;
+    char answer = 0;
+    while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(patience)) { }
+    return socket.waitForReadyRead(patience) && socket.getChar(&answer) && answer == thanks;
 }

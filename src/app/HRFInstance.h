@@ -15,7 +15,11 @@ public:
     /// Listens for others. The data folder must be this program's.
     explicit HRFInstance(const QString &dataFolder);
 
-    /// Hands files to the program that holds a data folder; answers whether it took them.
+    /// Takes no more files: others are to wait for the data folder.
+    void close() { m_server.close(); }
+
+    /// Hands files to the program that holds a data folder; answers whether it took them. One that
+    /// starts or ends at this moment does not.
     static bool handOver(const std::vector<HRFFileReference> &paths, const QString &dataFolder);
 
 Q_SIGNALS:

@@ -6,12 +6,14 @@
 #include "document/HRFDocumentController.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFAssert.h"
+#include "kit/HRFUserInteraction.h"
 
 #include <QAction>
 #include <QMenuBar>
 #include <QToolBar>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -177,7 +179,10 @@ QAction *HRFListCommands::makeAction(int row)
     const QString toolTip = *command.toolTip ? tr(command.toolTip) : action->toolTip();
     action->setToolTip(shortcut.isEmpty() ? toolTip : u"%1 (%2)"_s.arg(toolTip, shortcut));
     connect(action, &QAction::triggered, &m_window, &HRFListWindow::commitEditing); // comes first
-    connect(action, &QAction::triggered, &m_window, command.perform);
+    // What a command throws must not come across Qt's own work, which it would leave half done.
+    connect(action, &QAction::triggered, &m_window, [this, &command] {
+        HRFUserInteraction::presentFailures(std::bind_front(command.perform, &m_window));
+    });
     return action;
 }
 

@@ -14,6 +14,7 @@
 #include "app/HRFListView.h"
 #include "app/HRFPendingWork.h"
 #include "app/HRFSelectionLink.h"
+#include "app/HRFSheets.h"
 #include "app/HRFSidebar.h"
 #include "app/HRFSidebarSplitter.h"
 #include "app/HRFStatusLine.h"
@@ -207,9 +208,18 @@ void HRFListWindow::showWindows()
 
 bool HRFListWindow::hasAttachedSheet() const
 {
-    return std::ranges::any_of(findChildren<QDialog *>(), [](const QDialog *dialog) {
-        return dialog->isVisible() && dialog->isModal();
-    });
+    return HRFSheets::areOn(*this);
+}
+
+bool HRFListWindow::presentQuestion()
+{
+    QDialog *question = HRFSheets::questionOn(*this);
+    if (!question)
+        return false;
+    showWindows();
+    question->raise();
+    question->activateWindow();
+    return true;
 }
 
 void HRFListWindow::runAddPanel(const QStringList &fileTypes)
@@ -261,7 +271,7 @@ void HRFListWindow::closeEvent(QCloseEvent *event)
 {
     commitEditing();
     event->ignore(); // the window goes when its list does
-    if (!hasAttachedSheet())
+    if (!presentQuestion() && !hasAttachedSheet())
         m_application.close(*this);
 }
 

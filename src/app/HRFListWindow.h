@@ -51,6 +51,10 @@ public:
     void scrollToSelection() override;
     void reloadArtworkPane() override;
 
+    /// Brings the dialog on this window that waits for the user to the front; answers whether there
+    /// is one.
+    bool presentQuestion();
+
     // Commands:
     void newList();
     void addFiles();

@@ -1,5 +1,6 @@
 #include "app/HRFProgressDialog.h"
 
+#include "app/HRFSheets.h"
 #include "operations/HRFProgress.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +25,6 @@ HRFProgressDialog::HRFProgressDialog(std::shared_ptr<HRFProgress> progress,
     , m_details(new QLabel(this))
     , m_cancel(new QPushButton(m_appearance.cancelTitle, this))
 {
-    constexpr std::chrono::milliseconds delay(250);
     constexpr std::chrono::milliseconds betweenLooks(100);
     constexpr int width = 400;
     constexpr int margin = 18;
@@ -47,33 +46,41 @@ HRFProgressDialog::HRFProgressDialog(std::shared_ptr<HRFProgress> progress,
     connect(m_cancel, &QPushButton::clicked, this, &HRFProgressDialog::reject);
     connect(&m_timer, &QTimer::timeout, this, &HRFProgressDialog::refresh);
     m_timer.start(betweenLooks);
-    connect(&m_appearing, &QTimer::timeout, this, &HRFProgressDialog::appear);
-    m_appearing.start(delay);
     refresh();
+    appear();
 }
 
 void HRFProgressDialog::appear()
 {
-    if (isQuestionBeside())
+    const QWidget *window = parentWidget();
+    if (m_isOver || (window && !window->isVisible()))
         return;
-    m_appearing.stop();
-    show();
+    if (const QDialog *question = window ? HRFSheets::questionOn(*window) : nullptr)
+        callWhenGone(*question, &HRFProgressDialog::appear);
+    else
+        show();
 }
 
-/// The later one of two sheets blocks the other, and the work may be waiting for the answer.
-bool HRFProgressDialog::isQuestionBeside() const
+void HRFProgressDialog::end()
 {
-    return std::ranges::any_of(QApplication::topLevelWidgets(), [this](const QWidget *widget) {
-        return widget->isModal() && widget->isVisible() && widget->parentWidget() == parentWidget()
-            && !qobject_cast<const HRFProgressDialog *>(widget);
-    });
+    m_isOver = true;
+    m_timer.stop();
+    if (const QDialog *question = HRFSheets::questionOn(*this))
+        return callWhenGone(*question, &HRFProgressDialog::end);
+    hide();
+    deleteLater(); // it may be what asked for the end
+}
+
+void HRFProgressDialog::callWhenGone(const QDialog &question, void (HRFProgressDialog::*member)())
+{
+    connect(&question, &QDialog::finished, this, member, Qt::SingleShotConnection);
+    connect(&question, &QObject::destroyed, this, member, Qt::SingleShotConnection);
 }
 
 void HRFProgressDialog::refresh()
 {
-    const QString title =
-        m_appearance.title.isEmpty() ? m_progress->localizedDescription() : m_appearance.title;
-    m_title->setText(title);
+    const QString title = m_appearance.title ? m_appearance.title() : QString();
+    m_title->setText(title.isEmpty() ? m_progress->localizedDescription() : title);
     const qlonglong total = m_progress->totalUnitCount();
     constexpr int steps = 1000;
     m_bar->setRange(0, total > 0 ? steps : 0);

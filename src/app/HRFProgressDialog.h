@@ -9,8 +9,8 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-/// Shows how far some work is. It appears a moment after it was made, so that quick work does not
-/// flash, and not in front of a question. To close it is to cancel the work.
+/// Shows how far some work is, as soon as no question is in the way. To close it is to cancel the
+/// work.
 class HRFProgressDialog : public QDialog
 {
     Q_OBJECT
@@ -18,11 +18,16 @@ public:
     HRFProgressDialog(std::shared_ptr<HRFProgress> progress, HRFProgressAppearance appearance,
                       QWidget *parent);
 
+    /// Takes it from the screen and destroys it; not while a question stands on it, which would go,
+    /// too.
+    void end();
+    bool isOver() const { return m_isOver; }
+
     void reject() override;
 
 private:
     void appear();
-    bool isQuestionBeside() const;
+    void callWhenGone(const QDialog &question, void (HRFProgressDialog::*member)());
     void refresh();
 
     const std::shared_ptr<HRFProgress> m_progress;
@@ -31,6 +36,6 @@ private:
     QProgressBar *m_bar;
     QLabel *m_details;
     QPushButton *m_cancel;
-    QTimer m_appearing;
     QTimer m_timer;
+    bool m_isOver = false;
 };

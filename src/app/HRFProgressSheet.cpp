@@ -10,8 +10,6 @@ HRFProgressSheet::HRFProgressSheet(const std::shared_ptr<HRFProgress> &progress,
 
 HRFProgressSheet::~HRFProgressSheet()
 {
-    if (m_dialog) {
-        m_dialog->hide();
-        m_dialog->deleteLater(); // it may be what asked for the end
-    }
+    if (m_dialog)
+        m_dialog->end();
 }

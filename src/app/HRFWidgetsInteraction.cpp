@@ -4,24 +4,40 @@
 #include "app/HRFDesktop.h"
 #include "app/HRFListWindow.h"
 #include "app/HRFProgressSheet.h"
+#include "app/HRFSheets.h"
+#include "document/HRFPlaylist.h"
 #include "operations/HRFErrorSolver.h"
+#include "operations/HRFProgress.h"
 
 #include <QApplication>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace {
 
-/// The window that a question or a progress belongs to. Not one that may go while the question is
-/// asked, as another sheet may.
-QWidget *windowForSheet()
+/// The window of the list that the user works with, or has last worked with.
+HRFListWindow *currentWindow(const std::vector<HRFListWindow *> &windows)
 {
     for (QWidget *widget = QApplication::activeWindow(); widget; widget = widget->parentWidget())
-        if (qobject_cast<HRFListWindow *>(widget))
-            return widget;
+        if (auto *window = qobject_cast<HRFListWindow *>(widget))
+            return window;
+    const auto found = std::ranges::find_if(windows, [](const HRFListWindow *window) {
+        return &window->document() == HRFPlaylist::currentPlaylist();
+    });
+    return found == windows.end() ? nullptr : *found;
+}
+
+/// The window that a question or a progress belongs to; nullptr when there is none.
+HRFListWindow *windowOf(const HRFInteractionOwner &owner)
+{
+    std::vector<HRFListWindow *> windows;
     for (QWidget *widget : QApplication::topLevelWidgets())
-        if (qobject_cast<HRFListWindow *>(widget) && widget->isVisible())
-            return widget;
-    return nullptr;
+        if (auto *window = qobject_cast<HRFListWindow *>(widget); window && window->isVisible())
+            windows.push_back(window);
+    const auto found = std::ranges::find_if(
+        windows, [&](const HRFListWindow *window) { return &window->document() == owner; });
+    return found == windows.end() ? currentWindow(windows) : *found;
 }
 
 std::vector<HRFAlertButton> buttonsOf(const HRFError &error)
@@ -60,7 +76,9 @@ HRFWidgetsInteraction::~HRFWidgetsInteraction()
 
 HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
 {
-    const QPointer dialog(new HRFAlertDialog(alert, windowForSheet()));
+    HRFListWindow *window = windowOf(alert.owner);
+    const QPointer dialog(
+        new HRFAlertDialog(alert, window ? HRFSheets::placeForQuestion(*window) : nullptr));
     dialog->exec();
     if (!dialog) // its window was closed
         return HRFAlertDialog::answerOfNobody(alert);
@@ -69,12 +87,13 @@ HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
     return answer;
 }
 
-bool HRFWidgetsInteraction::presentError(const HRFError &error)
+bool HRFWidgetsInteraction::presentError(const HRFError &error, const HRFInteractionOwner &owner)
 {
     HRFAlert alert{.message = error.description,
                    .informativeText = reasonOf(error),
                    .buttons = buttonsOf(error),
-                   .isCritical = true};
+                   .isCritical = true,
+                   .owner = owner};
     if (!error.path.isEmpty())
         alert.icon = HRFFileReference::fromPath(error.path);
     if (alert.buttons.empty())
@@ -100,5 +119,5 @@ std::unique_ptr<HRFProgressDisplay>
 HRFWidgetsInteraction::showProgress(const std::shared_ptr<HRFProgress> &progress,
                                     const HRFProgressAppearance &appearance)
 {
-    return std::make_unique<HRFProgressSheet>(progress, appearance, windowForSheet());
+    return std::make_unique<HRFProgressSheet>(progress, appearance, windowOf(progress->owner()));
 }

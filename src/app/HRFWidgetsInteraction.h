@@ -4,8 +4,9 @@
 
 class QWidget;
 
-/// The user of the desktop application. Questions and progresses stand on the active window like
-/// sheets. It is the current interaction as long as it lives.
+/// The user of the desktop application. Questions and progresses stand like sheets on the window of
+/// the list that they belong to, or else on the active one. It is the current interaction as long
+/// as it lives.
 class HRFWidgetsInteraction : public HRFUserInteraction
 {
 public:
@@ -13,7 +14,7 @@ public:
     ~HRFWidgetsInteraction() override;
 
     HRFAlertAnswer runAlert(const HRFAlert &alert) override;
-    bool presentError(const HRFError &error) override;
+    bool presentError(const HRFError &error, const HRFInteractionOwner &owner) override;
     void revealFiles(const std::vector<HRFFileReference> &files) override;
     void notify(const QString &title, const QString &text, bool showsRegardless) override;
     std::unique_ptr<HRFProgressDisplay>

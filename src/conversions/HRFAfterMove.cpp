@@ -132,7 +132,8 @@ bool moveToTrash(const HRFFileReference &item)
     return hasTrash && item.isValidUtf8() && QFile::moveToTrash(item.displayPath());
 }
 
-bool userWantsToRemove(const std::vector<HRFFileReference> &folders)
+bool userWantsToRemove(const std::vector<HRFFileReference> &folders,
+                       const HRFInteractionOwner &owner)
 {
     const QString suppression = u"lirra.suppressed.removeEmptyDirectories"_s;
     if (HRFUserDefaults::standard().boolForKey(suppression))
@@ -147,7 +148,8 @@ bool userWantsToRemove(const std::vector<HRFFileReference> &folders)
          .buttons = {{.title = tr("Remove"), .role = HRFAnswerRole::Accept, .isDestructive = true},
                      {.title = tr("Keep"), .role = HRFAnswerRole::Cancel}},
          .suppressionTitle = tr("Do not ask again"),
-         .isQuestion = true});
+         .isQuestion = true,
+         .owner = owner});
     // Whoever does not want to be asked wants folders removed from then on, whatever the answer.
     HRFUserDefaults::standard().setValueForKey(answer.isSuppressed, suppression);
     return answer.button == 0;
@@ -187,7 +189,7 @@ void HRFAfterMove::postProcessSuccessfulOperations() const
             emptyFolders.push_back(folder);
     }
     if (!emptyFolders.empty() && !m_progress->isCancelled())
-        HRFMainThread::run([&] { HRFRemoveEmptyDirectories(emptyFolders); },
+        HRFMainThread::run([&] { HRFRemoveEmptyDirectories(emptyFolders, *m_progress); },
                            HRFMainThread::Wait::Yes);
 }
 
@@ -204,7 +206,7 @@ void HRFAfterMove::moveAccompanyingFiles(const HRFFileReference &from,
         const auto moved =
             manager.moveItemAtURL(referenceOf(item), referenceOf(pathOf(to) / item.filename()));
         if (!moved)
-            HRFUserInteraction::presentErrorLater(moved.error());
+            HRFUserInteraction::presentErrorLater(moved.error(), m_progress->owner());
     }
     m_progress->setLocalizedAdditionalDescription(tr("Done"));
 }
@@ -242,10 +244,11 @@ void HRFAfterMove::revealItems() const
     HRFUserInteraction::current().revealFiles(items);
 }
 
-void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders)
+void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders,
+                               const HRFProgress &progress)
 {
     HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
-    if (!userWantsToRemove(folders))
+    if (!userWantsToRemove(folders, progress.owner()))
         return;
     for (const HRFFileReference &folder : folders) {
         // Something may have come into it while the question was on the screen.
@@ -254,7 +257,8 @@ void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders)
                 {.domain = QString::fromLatin1(HRFFileErrorDomain),
                  .code = HRFFileErrorCode::writeUnknown,
                  .description = tr("The empty folder “%1” could not be moved to the Trash")
-                                    .arg(folder.displayPath())});
+                                    .arg(folder.displayPath())},
+                progress.owner());
         }
     }
 }

@@ -38,4 +38,6 @@ private:
 };
 
 /// Asks whether empty folders are to be removed, and puts them into the Trash. On the main thread.
-void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders);
+/// @param progress that of the move that left them
+void HRFRemoveEmptyDirectories(const std::vector<HRFFileReference> &folders,
+                               const HRFProgress &progress);

@@ -137,10 +137,10 @@ HRFFileOperationCC::movePlannedFiles(PlannedFiles files, const HRFConversionCont
     m_host.queueOperations(
         {operations.begin(), operations.end()},
         {.inQueue =
-             [reference = m_weakSelf.reference(), failures = refusedFiles(files), after] {
+             [reference = m_weakSelf.reference(), failures = refusedFiles(files), progress, after] {
                  const auto tell = [&] {
                      if (auto *self = reference.get(); self && !failures.empty())
-                         self->handleFailedMoveOperations(failures);
+                         self->handleFailedMoveOperations(failures, progress);
                  };
                  HRFMainThread::run(tell, Wait::Yes);
                  after.postProcessSuccessfulOperations();
@@ -174,7 +174,8 @@ void HRFFileOperationCC::selectFiles(const std::vector<HRFObjectID> &files)
     m_host.setSelectedFiles(present);
 }
 
-void HRFFileOperationCC::handleFailedMoveOperations(const std::vector<HRFObjectID> &files)
+void HRFFileOperationCC::handleFailedMoveOperations(const std::vector<HRFObjectID> &files,
+                                                    const std::shared_ptr<HRFProgress> &progress)
 {
     selectFiles(files);
     const auto solver = HRFErrorSolver::solverWithError(
@@ -186,5 +187,5 @@ void HRFFileOperationCC::handleFailedMoveOperations(const std::vector<HRFObjectI
     };
     solver->addRecoveryOptionWithLocalizedTitle(tr("Edit Pattern"), editPattern);
     solver->addCancelRecoveryOption();
-    presentErrorSolver(*solver);
+    presentErrorSolver(*solver, progress);
 }

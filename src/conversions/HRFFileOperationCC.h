@@ -47,7 +47,8 @@ public:
 
 private:
     void selectFiles(const std::vector<HRFObjectID> &files);
-    void handleFailedMoveOperations(const std::vector<HRFObjectID> &files);
+    void handleFailedMoveOperations(const std::vector<HRFObjectID> &files,
+                                    const std::shared_ptr<HRFProgress> &progress);
     std::shared_ptr<HRFMoveOperation> operationFor(const HRFPlannedFile &planned);
 
     HRFFileOperationHost &m_host;

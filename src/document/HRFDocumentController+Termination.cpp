@@ -35,9 +35,8 @@ void HRFDocumentController::showPendingWork()
 {
     const auto progress = std::make_shared<HRFProgress>();
     progress->setLocalizedDescription(tr("Writing Metadata…"));
-    for (const auto &document : m_documents)
-        for (const auto &pending : document->pendingProgresses())
-            progress->addChild(pending);
+    for (const auto &pending : HRFMetaFileManager::pendingProgresses())
+        progress->addChild(pending);
     progress->setLocalizedAdditionalDescription(
         tr("%1 items total").arg(progress->totalUnitCount()));
     m_pendingWork = std::make_unique<HRFProgressWindowController>(progress);

@@ -1,4 +1,5 @@
 #include "document/HRFMetaFileManager.h"
+#include "document/HRFPlaylist.h"
 #include "document/HRFReadAhead.h"
 #include "kit/HRFFileReferenceTable.h"
 #include "kit/HRFMainThread.h"
@@ -134,7 +135,7 @@ void HRFMetaFileManager::saveImport()
     HRFMainThread::run(
         [this] {
             if (const auto saved = managedObjectContext()->save(); !saved)
-                HRFUserInteraction::presentErrorLater(saved.error());
+                HRFUserInteraction::presentErrorLater(saved.error(), &m_document);
         },
         Wait::Yes);
 }
@@ -188,6 +189,7 @@ void HRFMetaFileManager::beginProgress(const std::shared_ptr<HRFProgress> &progr
 {
     constexpr std::chrono::milliseconds delay(1000);
     progress->setLocalizedDescription(tr("Reading Metadata…"));
+    progress->setOwner(&m_document);
     m_progressWindow = std::make_unique<HRFProgressWindowController>(progress);
     m_progressWindow->setTitleShowsProcessing(false);
     m_progressWindow->showAsSheet(delay);
@@ -277,7 +279,8 @@ bool HRFMetaFileManager::saveBackgroundContextAndPresentErrors()
         {.domain = saved.error().domain,
          .code = saved.error().code,
          .description = tr("Files couldn't be opened because of core data related issues."),
-         .underlying = std::make_shared<HRFError>(saved.error())});
+         .underlying = std::make_shared<HRFError>(saved.error())},
+        &m_document);
     return false;
 }
 
@@ -304,7 +307,7 @@ QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations, boo
             if (self && !problems.empty())
                 Q_EMIT self->filesWereNotImported(problems);
             if (self && !invalid.empty() && !isCancelled)
-                showInvalidFilesError(invalid);
+                self->showInvalidFilesError(invalid);
         },
         Wait::No);
     return succeeded;
@@ -324,5 +327,5 @@ void HRFMetaFileManager::showInvalidFilesError(const std::vector<HRFFileReferenc
         HRFUserInteraction::current().revealFiles(files);
         return false;
     });
-    HRFUserInteraction::current().presentError(solver->error());
+    HRFUserInteraction::current().presentError(solver->error(), &m_document);
 }

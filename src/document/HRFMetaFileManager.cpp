@@ -41,6 +41,16 @@ HRFOperationQueue &HRFMetaFileManager::fileOperationQueue()
     return queue;
 }
 
+std::set<std::shared_ptr<HRFProgress>> HRFMetaFileManager::pendingProgresses()
+{
+    std::set<std::shared_ptr<HRFProgress>> progresses;
+    for (const auto &operation : fileOperationQueue().operations())
+        if (const auto onFile = std::dynamic_pointer_cast<HRFFileOperation>(operation))
+            if (auto progress = onFile->progress())
+                progresses.insert(std::move(progress));
+    return progresses;
+}
+
 QString HRFMetaFileManager::modelName() const
 {
     return u"Lirra"_s;
@@ -76,7 +86,7 @@ void HRFMetaFileManager::contextDidChange(const HRFContextChanges &changes)
         const auto known =
             file ? file : HRFFileReferenceTable::lastKnownFileForURL(record->fileURL());
         if (known && known->displayName() != info->fileName())
-            renamed.push_back({record, file, known->displayName()});
+            renamed.push_back({record, file, *known});
     }
     updateTags(tags);
     if (!m_isTakingBackRename)
@@ -100,9 +110,7 @@ void HRFMetaFileManager::updateTags(const std::vector<HRFObjectChange> &changes)
         operation->setLast(operations.size() + 1 == changes.size());
         operations.push_back(std::move(operation));
     }
-    // Operations know their progress only as long as somebody holds it.
-    m_document.runOperations({operations.begin(), operations.end()},
-                             [progress] { static_cast<void>(progress); });
+    m_document.runOperations({operations.begin(), operations.end()});
     m_writeProgress = progress;
 }
 
@@ -112,12 +120,13 @@ void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
     names.reserve(renamings.size());
     bool areAsAsked = true;
     std::optional<HRFError> failure;
-    for (const auto &[record, file, oldName] : renamings) {
-        QString name = oldName;
+    for (const auto &[record, file, known] : renamings) {
+        QString name = known.displayName();
         if (!failure) {
             const QString asked = record->fileInfo().fileName();
-            const auto moved = file ? rename(*file, asked, record->fileURL())
-                                    : std::unexpected(HRFFileNotFoundError(oldName));
+            const auto moved = file
+                ? rename(*file, asked, record->fileURL())
+                : std::unexpected(HRFFileNotFoundError(name, known.displayPath()));
             if (moved)
                 name = moved->displayName();
             else
@@ -134,7 +143,8 @@ void HRFMetaFileManager::renameFiles(const std::vector<Renaming> &renamings)
              .description = failure->description,
              .recoverySuggestion = tr("The operation was cancelled due to unresolved errors."),
              .path = failure->path,
-             .underlying = std::make_shared<HRFError>(*failure)});
+             .underlying = std::make_shared<HRFError>(*failure)},
+            &m_document);
     }
     if (!areAsAsked)
         setNames(names);

@@ -14,6 +14,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <vector>
 
 class HRFPlaylist;
@@ -31,6 +32,8 @@ public:
 
     /// All writes, strips and moves of all lists, one at a time.
     static HRFOperationQueue &fileOperationQueue();
+    /// The progresses of the operations there, also of lists that are closed.
+    static std::set<std::shared_ptr<HRFProgress>> pendingProgresses();
 
     QString modelName() const override;
     /// A session file of this list's own.
@@ -97,7 +100,7 @@ private:
     void beginProgress(const std::shared_ptr<HRFProgress> &progress);
     void countFiles(std::size_t fileCount);
     void endProgress();
-    static void showInvalidFilesError(const std::vector<HRFFileReference> &files);
+    void showInvalidFilesError(const std::vector<HRFFileReference> &files);
     void contextDidChange(const HRFContextChanges &changes);
     void updateTags(const std::vector<HRFObjectChange> &changes);
     /// A record, and its file, which has another name; nothing when the file has vanished.
@@ -105,7 +108,7 @@ private:
     {
         HRFMetaFile *record;
         std::optional<HRFFileReference> file;
-        QString oldName;
+        HRFFileReference known; ///< where the file is, or was
     };
     void renameFiles(const std::vector<Renaming> &renamings);
     using Names = std::vector<std::pair<HRFObjectID, QString>>;

@@ -18,6 +18,7 @@ void HRFPlaylist::moveSelectedFilesToFolder(const HRFFileReference &folder)
     m_documents.noteNewRecentMoveDestinationURL(folder.displayPath());
     const auto progress = std::make_shared<HRFProgress>(qlonglong(selectedFiles().size()));
     progress->setLocalizedDescription(tr("Move Files"));
+    progress->setOwner(this);
     const auto sheet = HRFMainThread::makeShared<HRFProgressWindowController>(progress);
     sheet->showAsSheet();
     // No folders below the chosen one.

@@ -19,7 +19,8 @@ constexpr std::ptrdiff_t sliceSize = 250;
 
 /// Saves the background context, then the main context. The user is told of a failure. What comes
 /// from the background is no edit, and so not undoable; what the user edits meanwhile is.
-void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext> &weakMain)
+void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext> &weakMain,
+              const HRFInteractionOwner &owner)
 {
     const HRFResult<void> saved = background.save();
     HRFMainThread::run(
@@ -28,11 +29,21 @@ void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext>
             if (!main)
                 return; // the list is closed: there is nobody to miss anything
             if (const HRFResult<void> outcome = saved ? main->save() : saved; !outcome)
-                HRFUserInteraction::presentErrorLater(outcome.error());
+                HRFUserInteraction::presentErrorLater(outcome.error(), owner);
             main->processPendingChanges();
             main->enableUndoRegistration();
         },
         Wait::Yes);
+}
+
+/// Those of operations, which hold them weakly.
+std::set<std::shared_ptr<HRFProgress>> progressesOf(const HRFPlaylist::Operations &operations)
+{
+    std::set<std::shared_ptr<HRFProgress>> progresses;
+    for (const auto &operation : operations)
+        if (auto progress = operation->progress())
+            progresses.insert(std::move(progress));
+    return progresses;
 }
 
 HRFPlaylist::Operations succeeded(const HRFPlaylist::Operations &operations)
@@ -71,9 +82,10 @@ void HRFPlaylist::performBlockInBackgroundContext(std::function<void(HRFPrivateC
 {
     const auto background = m_fileManager->backgroundContext();
     const std::weak_ptr<HRFMainContext> main = m_fileManager->managedObjectContext();
-    const auto work = [background, main, block = std::move(block), whenDone = std::move(whenDone)] {
+    const auto work = [background, main, owner = HRFInteractionOwner(this),
+                       block = std::move(block), whenDone = std::move(whenDone)] {
         block(*background);
-        saveBoth(*background, main);
+        saveBoth(*background, main, owner);
         if (whenDone)
             HRFMainThread::run(whenDone, Wait::No);
     };
@@ -91,6 +103,7 @@ bool HRFPlaylist::enqueueOperationsForFiles(const std::vector<HRFMetaFile *> &fi
     constexpr std::chrono::milliseconds delay(400);
     progress->setCompletedUnitCount(0);
     progress->setTotalUnitCount(qlonglong(files.size()));
+    progress->setOwner(this);
     const auto answers = std::make_shared<HRFAppliedAnswers>();
     Operations operations;
     for (std::size_t index = 0; index < files.size(); ++index) {
@@ -153,7 +166,13 @@ void HRFPlaylist::runSlice(const Operations &operations, const std::shared_ptr<B
     const quint64 number = ++m_lastSlice;
     m_slices.emplace(number, Slice{operations, batch});
     const auto work = isLast ? batch->afterwork.inQueue : std::function<void()>();
-    queue.addBarrierBlock([reference = m_weakSelf.reference(), number, work] {
+    // The progresses are needed until then, even when the list is closed meanwhile: to cancel the
+    // rest, and to show the end of the program how much there is to do.
+    const auto progresses = progressesOf(operations);
+    for (const auto &progress : progresses)
+        progress->setOwner(this);
+    queue.addBarrierBlock([reference = m_weakSelf.reference(), number, work, progresses] {
+        static_cast<void>(progresses);
         if (work)
             HRFUserInteraction::presentFailures(work);
         HRFMainThread::run(
@@ -169,9 +188,7 @@ std::set<std::shared_ptr<HRFProgress>> HRFPlaylist::pendingProgresses() const
 {
     std::set<std::shared_ptr<HRFProgress>> progresses;
     for (const auto &[number, slice] : m_slices)
-        for (const auto &operation : slice.operations)
-            if (auto progress = operation->progress())
-                progresses.insert(std::move(progress));
+        progresses.merge(progressesOf(slice.operations));
     return progresses;
 }
 

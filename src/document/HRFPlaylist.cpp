@@ -169,7 +169,8 @@ void HRFPlaylist::strip()
                      .role = HRFAnswerRole::Accept,
                      .isDestructive = true},
                     {.title = tr("Cancel"), .role = HRFAnswerRole::Cancel}},
-        .isCritical = true};
+        .isCritical = true,
+        .owner = this};
     // While the question is on the screen, the selection may change, and records may go.
     std::vector<HRFObjectID> confirmed;
     for (const HRFMetaFile *file : files)

@@ -22,9 +22,10 @@ void HRFUserInteraction::setCurrent(HRFUserInteraction *interaction)
     currentInteraction = interaction;
 }
 
-void HRFUserInteraction::presentErrorLater(const HRFError &error)
+void HRFUserInteraction::presentErrorLater(const HRFError &error, const HRFInteractionOwner &owner)
 {
-    HRFMainThread::run([error] { current().presentError(error); }, HRFMainThread::Wait::No);
+    HRFMainThread::run([error, owner] { current().presentError(error, owner); },
+                       HRFMainThread::Wait::No);
 }
 
 void HRFUserInteraction::presentFailures(const std::function<void()> &block)

@@ -3,6 +3,8 @@
 #include "kit/HRFError.h"
 #include "kit/HRFFileReference.h"
 
+#include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -10,6 +12,10 @@
 #include <vector>
 
 class HRFProgress;
+
+/// The list that a question, an error or a progress belongs to: its window shows it. Null where it
+/// belongs to none.
+using HRFInteractionOwner = QPointer<QObject>;
 
 /// What a button of a question means, so that a program without a user can choose.
 enum class HRFAnswerRole {
@@ -45,6 +51,7 @@ struct HRFAlert
     bool isCritical = false;
     /// Nothing has failed; the answer says how to go on.
     bool isQuestion = false;
+    HRFInteractionOwner owner{};
 };
 
 struct HRFAlertAnswer
@@ -60,7 +67,8 @@ struct HRFAlertAnswer
 /// How a progress is shown: see HRFProgressWindowController.
 struct HRFProgressAppearance
 {
-    QString title{};
+    /// What is being done, at present; no function for the progress's description.
+    std::function<QString()> title{};
     QString cancelTitle{};
     /// What the cancel button does.
     std::function<void()> cancel{};
@@ -93,7 +101,7 @@ public:
 
     /// Presents an error when the main thread comes round to it, for those whom somebody waits for.
     /// From any thread.
-    static void presentErrorLater(const HRFError &error);
+    static void presentErrorLater(const HRFError &error, const HRFInteractionOwner &owner = {});
     /// Runs a block; a failure that it throws is presented later.
     static void presentFailures(const std::function<void()> &block);
 
@@ -101,12 +109,12 @@ public:
     virtual HRFAlertAnswer runAlert(const HRFAlert &alert) = 0;
     /// Shows an error with its recovery options, or with "OK" where it has none. Carries out the
     /// chosen option; answers whether the failed work may be tried again.
-    virtual bool presentError(const HRFError &error) = 0;
+    virtual bool presentError(const HRFError &error, const HRFInteractionOwner &owner = {}) = 0;
     /// Shows files in the file manager.
     virtual void revealFiles(const std::vector<HRFFileReference> &files) = 0;
     /// Tells about something that has ended.
     virtual void notify(const QString &title, const QString &text, bool showsRegardless) = 0;
-    /// Shows a progress until the result is destroyed.
+    /// Shows a progress, where its owner is shown, until the result is destroyed.
     virtual std::unique_ptr<HRFProgressDisplay>
     showProgress(const std::shared_ptr<HRFProgress> &progress,
                  const HRFProgressAppearance &appearance) = 0;

@@ -2,6 +2,7 @@
 
 #include "kit/HRFAssert.h"
 #include "kit/HRFMainThread.h"
+#include "operations/HRFProgress.h"
 
 #include <QCoreApplication>
 
@@ -25,16 +26,21 @@ struct Attempter
     }
 };
 
-HRFAlert alertFor(HRFErrorSolver &solver, bool showsSuppressionButton, const QString &title)
+HRFAlert alertFor(HRFErrorSolver &solver, bool showsSuppressionButton,
+                  const std::shared_ptr<HRFProgress> &progress)
 {
     const HRFError error = solver.error();
     HRFAlert alert;
-    alert.title = title;
+    if (progress) {
+        alert.title = progress->localizedDescription();
+        alert.owner = progress->owner();
+    }
     alert.message = error.description;
     alert.informativeText = error.recoverySuggestion;
     if (!error.path.isEmpty())
         alert.icon = HRFFileReference::fromPath(error.path);
     alert.buttons = solver.buttons();
+    alert.isCritical = true;
     if (showsSuppressionButton)
         alert.suppressionTitle = tr("Apply to All");
     return alert;
@@ -108,14 +114,14 @@ bool HRFErrorSolver::attemptRecoveryFromError(const HRFError & /*error*/, int op
     return hasRecovered;
 }
 
-bool presentErrorSolver(HRFErrorSolver &solver, const QString &title)
+bool presentErrorSolver(HRFErrorSolver &solver, const std::shared_ptr<HRFProgress> &progress)
 {
     std::optional<int> nothingRemembered;
-    return presentErrorSolver(solver, nothingRemembered, false, title);
+    return presentErrorSolver(solver, nothingRemembered, false, progress);
 }
 
 bool presentErrorSolver(HRFErrorSolver &solver, std::optional<int> &appliedToAllResponse,
-                        bool showsSuppressionButton, const QString &title)
+                        bool showsSuppressionButton, const std::shared_ptr<HRFProgress> &progress)
 {
     HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     if (appliedToAllResponse) {
@@ -124,7 +130,7 @@ bool presentErrorSolver(HRFErrorSolver &solver, std::optional<int> &appliedToAll
         return solver.attemptRecoveryFromError(solver.error(), *appliedToAllResponse);
     }
     const HRFAlertAnswer answer =
-        HRFUserInteraction::current().runAlert(alertFor(solver, showsSuppressionButton, title));
+        HRFUserInteraction::current().runAlert(alertFor(solver, showsSuppressionButton, progress));
     const int optionIndex = int(answer.button);
     if (answer.isSuppressed)
         appliedToAllResponse = optionIndex;

@@ -51,12 +51,13 @@ private:
 };
 
 /// Asks the user, on the main thread, and carries out the chosen option; answers its result.
-bool presentErrorSolver(HRFErrorSolver &solver, const QString &title = {});
+/// @param progress that of the work that failed
+bool presentErrorSolver(HRFErrorSolver &solver, const std::shared_ptr<HRFProgress> &progress = {});
 /// The same for one of several files. An answer that is remembered is taken without asking
 /// (assertion "Recovery option index is out of bounds"); one that is to hold for all files is put
 /// there.
 ///
 /// @param showsSuppressionButton whether to offer "Apply to All"
-/// @param title what is being done
 bool presentErrorSolver(HRFErrorSolver &solver, std::optional<int> &appliedToAllResponse,
-                        bool showsSuppressionButton, const QString &title = {});
+                        bool showsSuppressionButton,
+                        const std::shared_ptr<HRFProgress> &progress = {});

@@ -208,20 +208,20 @@ int HRFFileManager::fixMissingFolder(int failure, const HRFTransfer &transfer) c
     return creation.value() == EEXIST ? ENOTDIR : creation.value();
 }
 
-HRFFileExistsRecovery
-HRFFileManager::userRequestedRecoveryForFileExistsError(const HRFFileReference &destination,
-                                                        bool showSuppression)
+HRFFileExistsRecovery HRFFileManager::userRequestedRecoveryForFileExistsError(
+    const HRFFileReference &destination, bool showSuppression, const HRFInteractionOwner &owner)
 {
     auto recovery = HRFFileExistsRecovery::Stop;
     const auto decide = [&] {
-        recovery =
-            m_appliedToAllRecovery ? *m_appliedToAllRecovery : ask(destination, showSuppression);
+        recovery = m_appliedToAllRecovery ? *m_appliedToAllRecovery
+                                          : ask(destination, showSuppression, owner);
     };
     HRFMainThread::run(decide, HRFMainThread::Wait::Yes);
     return recovery;
 }
 
-HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, bool showSuppression)
+HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, bool showSuppression,
+                                          const HRFInteractionOwner &owner)
 {
     const std::array recoveries{HRFFileExistsRecovery::KeepBoth, HRFFileExistsRecovery::Replace,
                                 HRFFileExistsRecovery::Stop};
@@ -231,6 +231,7 @@ HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, b
     alert.informativeText = tr("Do you want to replace it with the one you’re moving?");
     alert.icon = destination;
     alert.isQuestion = true;
+    alert.owner = owner;
     alert.buttons = {
         {.title = tr("Keep Both")},
         {.title = tr("Replace"), .isDestructive = true},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/HRFUserInteraction.h"
 #include "operations/HRFTransfer.h"
 
 #include <optional>
@@ -53,9 +54,11 @@ public:
     /// Asks the user on the main thread, from whatever thread, unless there is an answer for all.
     ///
     /// @param showSuppression whether to offer "Apply to All"
+    /// @param owner the list whose file it is
     HRFFileExistsRecovery
     userRequestedRecoveryForFileExistsError(const HRFFileReference &destination,
-                                            bool showSuppression);
+                                            bool showSuppression,
+                                            const HRFInteractionOwner &owner = {});
     /// Does the transfer that failed with the error after all; Stop and Skip leave it at that.
     [[nodiscard]] HRFResult<HRFFileReference>
     attemptFixingFileExistsError(const HRFError &error, HRFFileExistsRecovery recovery,
@@ -67,7 +70,8 @@ private:
     HRFResult<HRFFileReference> keepBoth(const HRFTransfer &transfer);
     HRFResult<HRFFileReference> replace(const HRFTransfer &transfer);
     bool isProtected(const HRFFileReference &item) const;
-    HRFFileExistsRecovery ask(const HRFFileReference &destination, bool showSuppression);
+    HRFFileExistsRecovery ask(const HRFFileReference &destination, bool showSuppression,
+                              const HRFInteractionOwner &owner);
 
     // 0 when the transfer may be tried again, else the errno to report:
     int fix(int failure, const HRFTransfer &transfer) const;

@@ -15,13 +15,14 @@ QString tr(const char *text)
 
 } // namespace
 
-HRFError HRFFileNotFoundError(const QString &fileName)
+HRFError HRFFileNotFoundError(const QString &fileName, const QString &path)
 {
     HRFError error;
     error.domain = QString::fromLatin1(HRFFileErrorDomain);
     error.code = HRFFileErrorCode::noSuchFile;
     error.description = tr("The file “%1” could not be found").arg(fileName);
     error.recoverySuggestion = tr("It was deleted, replaced, or moved to another place.");
+    error.path = path;
     return error;
 }
 
@@ -86,6 +87,12 @@ void HRFFileOperation::setProgress(const std::shared_ptr<HRFProgress> &progress)
     m_progress = progress;
 }
 
+HRFInteractionOwner HRFFileOperation::owner() const
+{
+    const std::shared_ptr<HRFProgress> batch = progress();
+    return batch ? batch->owner() : HRFInteractionOwner();
+}
+
 bool HRFFileOperation::isCancelledWithBatch() const
 {
     const std::shared_ptr<HRFProgress> batch = progress();
@@ -110,10 +117,12 @@ HRFResult<HRFFileReference> HRFFileOperation::findFile()
     const HRFFileReference found = url.isEmpty()
         ? fileURL()
         : HRFFileReferenceTable::fileForURL(url).value_or(HRFFileReference());
+    const auto known = HRFFileReferenceTable::lastKnownFileForURL(url);
     const std::lock_guard lock(m_fieldsMutex);
     m_fileURL = found;
     if (found.isNull())
-        return std::unexpected(HRFFileNotFoundError(m_fileName));
+        return std::unexpected(
+            HRFFileNotFoundError(m_fileName, known ? known->displayPath() : QString()));
     return found;
 }
 

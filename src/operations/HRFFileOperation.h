@@ -12,7 +12,8 @@
 class HRFMetaFile;
 
 /// What is wrong when the file of a record is not there any more.
-HRFError HRFFileNotFoundError(const QString &fileName);
+/// @param path where it was last known to be
+HRFError HRFFileNotFoundError(const QString &fileName, const QString &path = {});
 
 /// Work on one file of a list.
 class HRFFileOperation : public HRFOperation
@@ -44,6 +45,8 @@ public:
 
     /// That of the batch; nullptr without one, or when nobody holds it any more.
     std::shared_ptr<HRFProgress> progress() const;
+    /// The list of the batch, whose window shows what goes wrong.
+    HRFInteractionOwner owner() const;
     void setProgress(const std::shared_ptr<HRFProgress> &progress);
     /// Whether this is the last operation of its batch.
     bool isLast() const { return m_isLast; }

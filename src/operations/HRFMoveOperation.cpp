@@ -33,7 +33,7 @@ void HRFMoveOperation::main()
     HRFResult<HRFFileReference> result = source ? transfer(*source) : source;
     if (!result && HRFIsFileExistsError(result.error())) {
         const auto recovery =
-            m_fileManager->userRequestedRecoveryForFileExistsError(dstURL(), !isLast());
+            m_fileManager->userRequestedRecoveryForFileExistsError(dstURL(), !isLast(), owner());
         result = m_fileManager->attemptFixingFileExistsError(result.error(), recovery,
                                                              {kind(), *source, dstURL()});
         if (recovery == HRFFileExistsRecovery::Stop || recovery == HRFFileExistsRecovery::Skip)
@@ -74,7 +74,9 @@ void HRFMoveOperation::finish(const HRFResult<HRFFileReference> &result)
 {
     if (!result) {
         setError(result.error());
-        const auto present = [&] { HRFUserInteraction::current().presentError(result.error()); };
+        const auto present = [&] {
+            HRFUserInteraction::current().presentError(result.error(), owner());
+        };
         HRFMainThread::run(present, HRFMainThread::Wait::Yes);
         return;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kit/HRFUserInteraction.h"
+
 #include <QString>
 
 #include <atomic>
@@ -43,6 +45,10 @@ public:
     /// A handler that comes after the cancellation is run at once.
     void setCancellationHandler(std::function<void()> handler);
 
+    /// The list whose files are worked on; its window shows this, and what goes wrong.
+    HRFInteractionOwner owner() const;
+    void setOwner(const HRFInteractionOwner &owner);
+
     void addChild(const std::shared_ptr<HRFProgress> &child);
 
 private:
@@ -58,4 +64,5 @@ private:
     QString m_additionalDescription;
     std::function<void()> m_cancellationHandler;
     std::vector<std::shared_ptr<HRFProgress>> m_children;
+    HRFInteractionOwner m_owner;
 };

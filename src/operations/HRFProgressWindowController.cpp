@@ -41,7 +41,7 @@ void HRFProgressWindowController::showWindow()
     const auto cancelProgress = [progress = m_progress] { progress->cancel(); };
     m_display = HRFUserInteraction::current().showProgress(
         m_progress,
-        {.title = displayTitle(),
+        {.title = [this] { return displayTitle(); },
          .cancelTitle = m_cancelOperationTitle,
          .cancel = m_cancellationHandler ? m_cancellationHandler : cancelProgress});
 }

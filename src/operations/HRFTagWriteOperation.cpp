@@ -20,19 +20,18 @@ QString tr(const char *text)
     return QCoreApplication::translate("HRFTagWriteOperation", text);
 }
 
-/// Lets the owner write and everybody read the file; a failure is presented.
-bool fixPermissions(const HRFFileReference &file)
+/// Lets the owner write and everybody read the file.
+HRFResult<void> makeWritable(const HRFFileReference &file)
 {
     constexpr mode_t mode = 0755;
     if (::chmod(file.nativePath().constData(), mode) == 0)
-        return true;
+        return {};
     HRFError error = HRFError::fromErrno(errno);
     error.recoverySuggestion = error.description;
     error.description =
         tr("The permissions of the file “%1” could not be changed").arg(file.displayName());
     error.path = file.displayPath();
-    HRFUserInteraction::current().presentError(error);
-    return false;
+    return std::unexpected(error);
 }
 
 QString errorKey(const HRFError &error)
@@ -40,10 +39,8 @@ QString errorKey(const HRFError &error)
     return error.domain + QString::number(error.code);
 }
 
-QString descriptionOf(const std::shared_ptr<HRFProgress> &progress)
-{
-    return progress ? progress->localizedDescription() : QString();
-}
+/// Whoever wants permissions fixed for all files can be asked about those that cannot be, too.
+const QString unfixableKey = u"permissions cannot be fixed"_s;
 
 } // namespace
 
@@ -155,43 +152,50 @@ HRFError HRFTagWriteOperation::offeringToFixPermissions(const HRFError &error)
     if (!error.isPermissionError() || m_hasFixedPermissions)
         return error;
     const auto solver = HRFErrorSolver::solverWithError(error);
-    const auto fix = [this] {
-        m_hasFixedPermissions = true;
-        return fixPermissions(fileURL());
-    };
+    const auto fix = [this] { return fixPermissions(); };
     solver->addRecoveryOptionWithLocalizedTitle(tr("Fix Permissions"), fix, HRFAnswerRole::Fix);
     solver->addCancelRecoveryOption();
     return solver->error();
+}
+
+/// A failure is presented; answers whether there was none.
+bool HRFTagWriteOperation::fixPermissions()
+{
+    m_hasFixedPermissions = true;
+    const HRFResult<void> fixed = makeWritable(fileURL());
+    if (!fixed && isLast())
+        HRFUserInteraction::current().presentError(fixed.error(), owner());
+    else if (!fixed)
+        presentSolver(*solverToContinue(fixed.error()), unfixableKey);
+    return fixed.has_value();
 }
 
 bool HRFTagWriteOperation::attemptRecoveryFromError(const HRFError &error)
 {
     HRFRequire(HRFMainThread::isCurrent(), "HRFMainThread::isCurrent()");
     if (const auto solver = HRFErrorSolver::solverOfError(error))
-        return presentSolver(*solver, error);
+        return presentSolver(*solver, errorKey(error));
     if (!error.recoveryAttempter && !isLast())
-        return askWhetherToContinue(error);
-    return HRFUserInteraction::current().presentError(error);
+        return presentErrorSolver(*solverToContinue(error), progress());
+    return HRFUserInteraction::current().presentError(error, owner());
 }
 
-bool HRFTagWriteOperation::presentSolver(HRFErrorSolver &solver, const HRFError &error)
+bool HRFTagWriteOperation::presentSolver(HRFErrorSolver &solver, const QString &key)
 {
-    const QString key = errorKey(error);
     std::optional<int> response;
     if (m_appliedAnswers && m_appliedAnswers->contains(key))
         response = m_appliedAnswers->value(key);
-    const bool triesAgain =
-        presentErrorSolver(solver, response, !isLast(), descriptionOf(progress()));
+    const bool triesAgain = presentErrorSolver(solver, response, !isLast(), progress());
     if (m_appliedAnswers && response)
         m_appliedAnswers->insert(key, *response);
     return triesAgain;
 }
 
-bool HRFTagWriteOperation::askWhetherToContinue(const HRFError &error)
+/// Lets the user go on with the other files, or cancel the batch.
+std::shared_ptr<HRFErrorSolver> HRFTagWriteOperation::solverToContinue(const HRFError &error) const
 {
-    const auto batch = progress();
     const auto leaveOut = [] { return false; };
-    const auto cancelBatch = [batch] {
+    const auto cancelBatch = [batch = progress()] {
         if (batch)
             batch->cancel();
         return false;
@@ -199,5 +203,5 @@ bool HRFTagWriteOperation::askWhetherToContinue(const HRFError &error)
     const auto solver = HRFErrorSolver::solverWithError(error);
     solver->addRecoveryOptionWithLocalizedTitle(tr("Continue"), leaveOut, HRFAnswerRole::Continue);
     solver->addRecoveryOptionWithLocalizedTitle(tr("Cancel"), cancelBatch, HRFAnswerRole::Cancel);
-    return presentErrorSolver(*solver, descriptionOf(batch));
+    return solver;
 }

@@ -9,7 +9,8 @@ class HRFErrorSolver;
 class HRFTagEngine;
 
 /// Answers of the user for all further errors of a kind: the index of the chosen option by error
-/// key (domain and code). The operations of a batch share one; it belongs to the main thread.
+/// key (domain and code, for most). The operations of a batch share one; it belongs to the main
+/// thread.
 using HRFAppliedAnswers = QHash<QString, int>;
 
 /// Writes changed tags into a file.
@@ -41,8 +42,9 @@ private:
     [[nodiscard]] HRFResult<void> write();
     [[nodiscard]] HRFResult<void> write(const HRFFileReference &file);
     HRFError offeringToFixPermissions(const HRFError &error);
-    bool presentSolver(HRFErrorSolver &solver, const HRFError &error);
-    bool askWhetherToContinue(const HRFError &error);
+    bool fixPermissions();
+    bool presentSolver(HRFErrorSolver &solver, const QString &key);
+    std::shared_ptr<HRFErrorSolver> solverToContinue(const HRFError &error) const;
 
     std::shared_ptr<HRFAppliedAnswers> m_appliedAnswers;
     bool m_hasFixedPermissions = false; ///< changed on the main thread while main() waits for it

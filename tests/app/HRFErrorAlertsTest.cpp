@@ -98,17 +98,27 @@ TEST_F(HRFErrorAlertsTest, asksOnceOrForEachFile)
     }
 }
 
-TEST_F(HRFErrorAlertsTest, isNotCoveredByItsProgress)
+TEST_F(HRFErrorAlertsTest, standsOnTheProgressOfItsList)
 {
+    HRFListWindow &other = application->newList();
     makeGuardedFiles();
-    acts = {pressing(u"Remove all metadata"_s), [](QDialog &alert) {
-                EXPECT_FALSE(isProgressShownSoon());
+    acts = {[&](QDialog &alert) {
+                other.showWindows(); // the user goes on elsewhere
+                HRFTestDialogs::press(alert, u"Remove all metadata"_s);
+            },
+            [&](QDialog &alert) {
+                const QDialog *progress = HRFTestDialogs::dialog(u"progressSheet"_s);
+                ASSERT_TRUE(progress);
+                EXPECT_EQ(progress->parentWidget(), window);
+                EXPECT_EQ(alert.parentWidget(), progress);
+                EXPECT_FALSE(other.hasAttachedSheet());
                 alert.findChild<QCheckBox *>()->setChecked(true);
                 HRFTestDialogs::press(alert, u"Cancel"_s);
                 EXPECT_FALSE(alert.isVisible());
                 alert.reject(); // in case of a fault
             }};
     window->commands().action(u"strip"_s)->trigger();
+    EXPECT_TRUE(window->hasAttachedSheet()); // nothing can be asked for twice
     waitForWork();
     EXPECT_THAT(albums(), ElementsAre(u"Old"_s, u"Old"_s, u"Old"_s, QString()));
 }

@@ -2,6 +2,7 @@
 #include "app/HRFFilterMenu.h"
 #include "app/HRFSidebar.h"
 #include "app/HRFTestWithWindow.h"
+#include "kit/HRFAssert.h"
 #include "operations/HRFProgress.h"
 #include "support/HRFHeldQueue.h"
 
@@ -433,6 +434,21 @@ TEST_F(HRFListWindowTest, namesItsControls)
         QAccessible::queryAccessibleInterface(window->findChild<QLabel *>(u"statusLine"_s));
     waitUntil([&] { return status->text(QAccessible::Name).startsWith(u"3 files"_s); });
     waitForWork();
+}
+
+/// What cannot be done for want of the data folder is told, and that is all.
+TEST_F(HRFListWindowTest, outlivesAFault)
+{
+    const QString sessions = path(u"data/windowSessions"_s);
+    ASSERT_TRUE(QFile::rename(sessions, path(u"moved"_s)));
+    ASSERT_TRUE(QFile(sessions).open(QIODevice::WriteOnly)); // a file, no folder
+    window->commands().action(u"newList"_s)->trigger();
+    waitUntil([&] { return user.presentedErrors.size() == 2; });
+    EXPECT_TRUE(user.presentedErrors[1].description.contains(u"persistent store"_s));
+    QMetaObject::invokeMethod(window, [] { HRFRequire(false, "a fault"); }, Qt::QueuedConnection);
+    waitUntil([&] { return user.presentedErrors.size() == 3; });
+    EXPECT_EQ(application->documents().documents().size(), 1U);
+    user.presentedErrors.clear();
 }
 
 } // namespace

@@ -13,18 +13,20 @@
 #include "tags/ID3MetaData.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
 #include <gmock/gmock.h>
 
+// After the preferences, whose Display is not that of X11.
+#include "app/HRFDesktopApplication.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class HRFPreferencesTest : public HRFTestWithApplication<QApplication>
+class HRFPreferencesTest : public HRFTestWithApplication<HRFDesktopApplication>
 {
 protected:
     HRFPreferencesTest() : dataFolder(*HRFDataFolder::take(path(u"data"_s)))

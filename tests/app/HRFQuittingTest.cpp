@@ -38,7 +38,6 @@ protected:
         held->release();
         waitUntil([&] { return isTerminated; });
         EXPECT_FALSE(window->isVisible());
-        EXPECT_FALSE(dialog(u"progressSheet"_s));
     }
     QString title() const { return onDisk(music(u"a.mp3"_s), HRFTagKey::title); }
 
@@ -55,6 +54,7 @@ TEST_F(HRFQuittingTest, finishesWhatIsNotToBeCancelled)
                 testing::Each(u"Are you sure you want to cancel the remaining operations?"_s));
     EXPECT_TRUE(dialog(u"progressSheet"_s));
     finish();
+    EXPECT_FALSE(dialog(u"progressSheet"_s));
     EXPECT_EQ(title(), u"New"_s);
 }
 
@@ -65,6 +65,7 @@ TEST_F(HRFQuittingTest, leavesFilesAloneWhenItIsCancelled)
     cancelWork();
     EXPECT_FALSE(isTerminated); // something is still running
     finish();
+    EXPECT_FALSE(dialog(u"progressSheet"_s));
     EXPECT_EQ(title(), u"Old"_s);
 }
 
@@ -73,6 +74,7 @@ TEST_F(HRFQuittingTest, endsWhileItAsksWhetherToCancel)
     quitWithWork();
     acts = {[&](QDialog &) { finish(); }};
     cancelWork();
+    EXPECT_FALSE(dialog(u"progressSheet"_s));
     EXPECT_EQ(title(), u"New"_s);
 }
 
@@ -101,9 +103,19 @@ TEST_F(HRFQuittingTest, keepsWhatHasBeenTypedIntoAListThatIsClosed)
 TEST_F(HRFQuittingTest, takesNoEndForAnAnswer)
 {
     HRFListWindow &other = application->newList();
-    window->showWindows();
-    acts = {[&](QDialog &) { other.commands().action(u"quit"_s)->trigger(); }};
-    window->commands().action(u"strip"_s)->trigger();
+    QAction *strip = window->commands().action(u"strip"_s);
+    acts = {[&](QDialog &alert) {
+                other.showWindows();
+                other.commands().action(u"quit"_s)->trigger();
+                QCoreApplication::processEvents();
+                EXPECT_FALSE(isTerminated); // it is the user's turn
+                EXPECT_EQ(QApplication::activeWindow(), &alert);
+                press(alert, u"Cancel"_s);
+            },
+            [&](QDialog &) { application->terminate(); }};
+    strip->trigger();
+    EXPECT_FALSE(isTerminated);
+    strip->trigger();
     EXPECT_TRUE(isTerminated);
     waitForWork();
     EXPECT_EQ(title(), u"Old"_s);
@@ -113,7 +125,7 @@ TEST_F(HRFQuittingTest, waitsForTheAnswerToAnError)
 {
     ASSERT_TRUE(QFile::remove(music(u"a.mp3"_s).displayPath()));
     acts = {[&](QDialog &alert) {
-        application->quit();
+        application->terminate();
         EXPECT_FALSE(isProgressShownSoon());
         EXPECT_FALSE(isTerminated);
         press(alert, u"OK"_s);

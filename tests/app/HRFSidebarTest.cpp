@@ -300,6 +300,7 @@ TEST_F(HRFSidebarTest, refusesFilesThatAreNoPictures)
     dropped.setUrls({QUrl::fromLocalFile(path(u"no.png"_s))});
     dropOnPane(dropped);
     waitUntil([&] { return user.presentedErrors.size() == 1; });
+    user.presentedErrors.clear();
     EXPECT_THAT(picturesOfFiles(), Each(QString()));
 }
 

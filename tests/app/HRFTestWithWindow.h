@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/HRFApplicationDelegate.h"
+#include "app/HRFDesktopApplication.h"
 #include "app/HRFFileURIs.h"
 #include "app/HRFListColumn.h"
 #include "app/HRFListCommands.h"
@@ -15,7 +16,6 @@
 #include "support/HRFTestApplication.h"
 #include "support/HRFTestFile.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
@@ -24,7 +24,7 @@
 #include <QPointer>
 
 /// The program's window, as the user has it before them.
-class HRFTestWithWindow : public HRFTestWithApplication<QApplication>
+class HRFTestWithWindow : public HRFTestWithApplication<HRFDesktopApplication>
 {
 protected:
     HRFTestWithWindow() : dataFolder(*HRFDataFolder::take(path(QStringLiteral("data"))))
@@ -35,6 +35,7 @@ protected:
     }
     void TearDown() override
     {
+        EXPECT_TRUE(user.presentedErrors.empty()); // a test that expects some takes them away
         close();
         HRFTestWithApplication::TearDown();
         HRFUserDefaults::standard().setFilePath({});

@@ -1,6 +1,7 @@
 #include "app/HRFTranslations.h"
 
 #include "app/HRFApplicationDelegate.h"
+#include "app/HRFDesktopApplication.h"
 #include "app/HRFListWindow.h"
 #include "kit/HRFUserDefaults.h"
 #include "store/HRFAttributeManager.h"
@@ -8,7 +9,6 @@
 #include "support/HRFScriptedInteraction.h"
 #include "support/HRFTestApplication.h"
 
-#include <QApplication>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class HRFTranslationsTest : public HRFTestWithApplication<QApplication>
+class HRFTranslationsTest : public HRFTestWithApplication<HRFDesktopApplication>
 {
 protected:
     HRFTranslationsTest() : dataFolder(*HRFDataFolder::take(path(u"data"_s)))

@@ -1,12 +1,12 @@
 #include "app/HRFWidgetsInteraction.h"
 
 #include "app/HRFControlWalk.h"
+#include "app/HRFDesktopApplication.h"
 #include "app/HRFInstance.h"
 #include "app/HRFTestDialogs.h"
 #include "operations/HRFProgress.h"
 #include "support/HRFTestApplication.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QTimer>
 
@@ -18,7 +18,7 @@ using HRFTestDialogs::press;
 
 namespace {
 
-class HRFWidgetsInteractionTest : public HRFTestWithApplication<QApplication>
+class HRFWidgetsInteractionTest : public HRFTestWithApplication<HRFDesktopApplication>
 {
 protected:
     /// Asks a question, and does something with the dialog when it is there.
@@ -84,7 +84,7 @@ TEST_F(HRFWidgetsInteractionTest, carriesOutTheChosenRecovery)
                              return option == 1;
                          }};
     QTimer::singleShot(0, [] { press(*dialog(u"alert"_s), u"Again"_s); });
-    EXPECT_TRUE(user.presentError(error));
+    EXPECT_TRUE(user.presentError(error, {}));
     EXPECT_EQ(chosen, 1);
 }
 
@@ -94,8 +94,6 @@ TEST_F(HRFWidgetsInteractionTest, cancelsWorkFromItsSheet)
     progress->setCompletedUnitCount(5);
     auto display = user.showProgress(
         progress, {.cancelTitle = u"Cancel"_s, .cancel = [&] { progress->cancel(); }});
-    EXPECT_FALSE(dialog(u"progressSheet"_s)); // quick work shows nothing
-    waitUntil([] { return dialog(u"progressSheet"_s) != nullptr; });
     QDialog *sheet = dialog(u"progressSheet"_s);
     EXPECT_EQ(HRFCheckControls(*sheet), 1);
     QTest::keyClick(sheet, Qt::Key_Escape);
@@ -113,14 +111,19 @@ TEST_F(HRFWidgetsInteractionTest, handsFilesToTheRunningProgram)
     std::vector<HRFFileReference> arrived;
     bool wasTaken = false;
     // The second program may be there before the first one listens.
-    std::jthread second([&] { wasTaken = HRFInstance::handOver(files, u"/data"_s); });
-    const HRFInstance first(u"/data"_s);
+    std::jthread second([&] {
+        while (!wasTaken)
+            wasTaken = HRFInstance::handOver(files, u"/data"_s);
+    });
+    HRFInstance first(u"/data"_s);
     QObject::connect(&first, &HRFInstance::pathsDidArrive,
                      [&](const std::vector<HRFFileReference> &paths) { arrived = paths; });
     waitUntil([&] { return !arrived.empty(); });
     second.join();
     EXPECT_EQ(arrived, files);
     EXPECT_TRUE(wasTaken);
+    first.close();
+    EXPECT_FALSE(HRFInstance::handOver(files, u"/data"_s));
 }
 
 } // namespace

@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
@@ -424,6 +425,29 @@ TEST_F(HRFPlaylistTest, QuittingWaitsForPendingWritesUnlessTheyAreCancelled)
     held.release();
     waitUntil([&] { return isTerminated; });
     EXPECT_NE(onDisk(u"01.mp3"_s, HRFTagKey::title), u"T"_s);
+}
+
+TEST_F(HRFPlaylistTest, WorkOfAClosedListCanBeCancelled)
+{
+    importCopies(3);
+    documents.newDocument();
+    HRFHeldQueue held;
+    for (HRFMetaFile *file : list.arrangedFiles()) {
+        file->tags().setValueForKey(u"T"_s, u"title"_s);
+        ASSERT_TRUE(QFile::remove(file->url()->displayPath()));
+    }
+    list.managedObjectContext().processPendingChanges();
+    const QPointer closed(&list);
+    list.close();
+    waitUntil([&] { return !closed; });
+    bool isTerminated = false;
+    documents.terminate([&] { isTerminated = true; });
+    EXPECT_EQ(user.shownProgresses.back().progress->totalUnitCount(), 3);
+    user.answers = {{HRFAnswerRole::Cancel}};
+    held.release();
+    waitUntil([&] { return isTerminated; });
+    EXPECT_THAT(user.alerts, testing::SizeIs(1));
+    EXPECT_THAT(user.presentedErrors, IsEmpty());
 }
 
 TEST_F(HRFPlaylistTest, FoldersAreRemembered)

@@ -1,6 +1,7 @@
 #include "operations/HRFErrorSolver.h"
 
 #include "kit/HRFAssert.h"
+#include "operations/HRFProgress.h"
 #include "support/HRFScriptedInteraction.h"
 
 #include <gmock/gmock.h>
@@ -37,7 +38,9 @@ protected:
 TEST_F(HRFErrorSolverTest, ButtonsRunTheirOptions)
 {
     user.answers = {{u"Edit Pattern"_s}, {HRFAnswerRole::Cancel}};
-    EXPECT_TRUE(presentErrorSolver(*solver, u"Rename"_s));
+    const auto progress = std::make_shared<HRFProgress>();
+    progress->setLocalizedDescription(u"Rename"_s);
+    EXPECT_TRUE(presentErrorSolver(*solver, progress));
     EXPECT_FALSE(presentErrorSolver(*solver));
     EXPECT_EQ(edits, 1);
     EXPECT_THAT(completions, ElementsAre(true));
@@ -46,6 +49,7 @@ TEST_F(HRFErrorSolverTest, ButtonsRunTheirOptions)
     EXPECT_EQ(alert.message, HRFError::fromErrno(ENOENT).description);
     EXPECT_EQ(alert.icon.displayPath(), u"/a/b.mp3"_s);
     EXPECT_EQ(alert.suppressionTitle, QString());
+    EXPECT_TRUE(alert.isCritical);
 }
 
 TEST_F(HRFErrorSolverTest, AnAnswerForAllIsTakenWithoutAsking)
@@ -75,7 +79,7 @@ TEST_F(HRFErrorSolverTest, TheErrorCarriesTheSolver)
     EXPECT_EQ(HRFErrorSolver::solverOfError(HRFError::fromErrno(ENOENT)), nullptr);
     solver.reset();
     user.answers = {{u"Edit Pattern"_s}};
-    EXPECT_TRUE(user.presentError(error));
+    EXPECT_TRUE(user.presentError(error, {}));
     EXPECT_EQ(edits, 1);
     EXPECT_THAT(completions, ElementsAre(true));
     EXPECT_EQ(error.code, ENOENT);

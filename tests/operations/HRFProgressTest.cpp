@@ -84,15 +84,15 @@ TEST_F(HRFProgressWindowControllerTest, TitlesAreShownAsTheyStand)
     controller.setTitleShowsProcessing(true);
     controller.setCancelOperationTitle(u"Stop"_s);
     controller.showAsSheet();
-    controller.dismiss();
+    EXPECT_EQ(user.shownProgresses[0].appearance.title(), u"Strip Tags: Processing…"_s);
     progress->cancel();
+    EXPECT_EQ(user.shownProgresses[0].appearance.title(), u"Strip Tags"_s);
+    controller.dismiss();
     controller.showWindow();
     controller.dismiss();
     ASSERT_EQ(user.shownProgresses.size(), 2U);
     EXPECT_EQ(user.shownProgresses[0].progress, progress);
-    EXPECT_EQ(user.shownProgresses[0].appearance.title, u"Strip Tags: Processing…"_s);
     EXPECT_EQ(user.shownProgresses[0].appearance.cancelTitle, u"Stop"_s);
-    EXPECT_EQ(user.shownProgresses[1].appearance.title, u"Strip Tags"_s);
     EXPECT_EQ(user.shownProgresses[1].appearance.cancelTitle, u"Cancel"_s);
 }
 

@@ -51,6 +51,17 @@ protected:
     }
 };
 
+/// A write that is not permitted, of a file that is gone when its permissions are to be fixed.
+class UnfixableWrite : public HRFTagWriteOperation
+{
+protected:
+    HRFResult<void> updateEngine(HRFTagEngine & /*engine*/) override
+    {
+        EXPECT_EQ(::unlink(fileURL().nativePath().constData()), 0);
+        return std::unexpected(HRFError::fromErrno(EACCES));
+    }
+};
+
 class HRFTagWriteOperationTest : public HRFAudioFilesTest
 {
 protected:
@@ -122,18 +133,29 @@ TEST_F(HRFTagWriteOperationTest, TheLastFileIsAskedAboutAlone)
     EXPECT_EQ(successes(operations), 1);
 }
 
+/// Each failure is told, unless the user has enough of them.
 TEST_F(HRFTagWriteOperationTest, PermissionsThatCannotBeFixedEndTheFile)
 {
-    auto operations = batch<GuardedWrite>(2);
-    protect(operations[0]->fileURL());
-    user.answers = {{u"Fix Permissions"_s}};
-    user.onQuestion = [&](const QString &) {
-        ::unlink(operations[0]->fileURL().nativePath().constData());
-    };
-    run(operations);
-    ASSERT_THAT(user.presentedErrors, SizeIs(1));
-    EXPECT_TRUE(user.presentedErrors.front().fullText().contains(u"“0.mp3”"_s));
-    EXPECT_EQ(successes(operations), 1);
+    const HRFScriptedInteraction::Answer fixAll{u"Fix Permissions"_s, true};
+    const struct
+    {
+        std::deque<HRFScriptedInteraction::Answer> answers;
+        std::size_t presented; ///< of the last file
+        bool isCancelled;
+    } cases[] = {{{fixAll, {u"Continue"_s}, {u"Continue"_s, true}}, 1, false},
+                 {{fixAll, {u"Cancel"_s}}, 0, true}};
+    for (const auto &test : cases) {
+        user.alerts.clear();
+        user.presentedErrors.clear();
+        user.answers = test.answers;
+        auto operations = batch<UnfixableWrite>(5);
+        run(operations);
+        EXPECT_THAT(user.alerts, SizeIs(test.answers.size()));
+        EXPECT_TRUE(user.alerts.back().message.contains(u"could not be changed"_s));
+        EXPECT_THAT(user.presentedErrors, SizeIs(test.presented));
+        EXPECT_EQ(successes(operations), 0);
+        EXPECT_EQ(progress->isCancelled(), test.isCancelled);
+    }
 }
 
 /// A file that stays protected all the same is not fixed for ever, least of all without a question.
@@ -240,6 +262,7 @@ TEST_F(HRFRecordOperationTest, AFileThatIsGoneIsNamed)
     ASSERT_THAT(user.presentedErrors, SizeIs(1));
     EXPECT_EQ(user.presentedErrors.front().code, HRFFileErrorCode::noSuchFile);
     EXPECT_TRUE(user.presentedErrors.front().description.contains(u"“a.mp3”"_s));
+    EXPECT_EQ(user.presentedErrors.front().path, file(u"a.mp3"_s).displayPath());
 }
 
 } // namespace

@@ -72,7 +72,8 @@ HRFAlertAnswer HRFScriptedInteraction::runAlert(const HRFAlert &alert)
     return answer;
 }
 
-bool HRFScriptedInteraction::presentError(const HRFError &error)
+bool HRFScriptedInteraction::presentError(const HRFError &error,
+                                          const HRFInteractionOwner & /*owner*/)
 {
     expectMainThread();
     presentedErrors.push_back(error);

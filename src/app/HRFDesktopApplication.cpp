@@ -1,0 +1,32 @@
+#include "app/HRFDesktopApplication.h"
+
+#include "kit/HRFMainThread.h"
+#include "kit/HRFUserInteraction.h"
+
+#include <exception>
+
+bool HRFDesktopApplication::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception &failure) {
+        tell(failure);
+        return true;
+    }
+}
+
+/// One at a time: a window that cannot be painted would bring up alerts for ever.
+void HRFDesktopApplication::tell(const std::exception &failure)
+{
+    qCritical("%s", failure.what());
+    if (m_isTelling.exchange(true))
+        return;
+    const HRFError error{.domain = QString::fromLatin1(HRFLirraErrorDomain),
+                         .description = QString::fromLocal8Bit(failure.what())};
+    HRFMainThread::run(
+        [this, error] {
+            HRFUserInteraction::current().presentError(error);
+            m_isTelling = false;
+        },
+        HRFMainThread::Wait::No);
+}
