@@ -26,7 +26,10 @@ public:
     ~Silence() override { setCurrent(nullptr); }
 
     HRFAlertAnswer runAlert(const HRFAlert &alert) override { fail(alert.message); }
-    bool presentError(const HRFError &error) override { fail(error.fullText()); }
+    bool presentError(const HRFError &error, const HRFInteractionOwner & /*owner*/) override
+    {
+        fail(error.fullText());
+    }
     void revealFiles(const std::vector<HRFFileReference> &) override { }
     void notify(const QString &, const QString &, bool) override { }
     std::unique_ptr<HRFProgressDisplay> showProgress(const std::shared_ptr<HRFProgress> &,
