@@ -1,7 +1,7 @@
 #include "app/HRFImportNotice.h"
 
 #include "app/HRFIcons.h"
-#include "document/HRFMetaFileManager.h"
+#include "document/HRFPlaylist.h"
 #include "kit/HRFUserInteraction.h"
 #include "tags/HRFTagEngine.h"
 
@@ -23,7 +23,8 @@ bool isInvalidFile(const HRFFileProblem &problem)
 
 } // namespace
 
-HRFImportNotice::HRFImportNotice(HRFMetaFileManager &files, QWidget *parent) : QToolButton(parent)
+HRFImportNotice::HRFImportNotice(HRFPlaylist &list, QWidget *parent)
+    : QToolButton(parent), m_list(list)
 {
     setObjectName(u"importNotice"_s);
     setIcon(HRFIcons::named(u"warning"_s));
@@ -32,7 +33,8 @@ HRFImportNotice::HRFImportNotice(HRFMetaFileManager &files, QWidget *parent) : Q
     setFocusPolicy(Qt::TabFocus);
     setToolTip(tr("Show what was not added, and why"));
     add({});
-    connect(&files, &HRFMetaFileManager::filesWereNotImported, this, &HRFImportNotice::add);
+    connect(&list.fileManager(), &HRFMetaFileManager::filesWereNotImported, this,
+            &HRFImportNotice::add);
     connect(this, &QToolButton::clicked, this, &HRFImportNotice::explain);
 }
 
@@ -64,7 +66,8 @@ void HRFImportNotice::explain()
     const HRFAlert alert{.message = text(),
                          .informativeText = lines.join(u'\n'),
                          .buttons = {{.title = tr("OK"), .role = HRFAnswerRole::Continue},
-                                     {.title = tr("Show Files")}}};
+                                     {.title = tr("Show Files")}},
+                         .owner = &m_list};
     if (HRFUserInteraction::current().runAlert(alert).button == 1)
         HRFUserInteraction::current().revealFiles(files);
 }

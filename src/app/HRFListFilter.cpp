@@ -19,7 +19,7 @@ const HRFListColumn &columnAt(int column)
 HRFListFilter::HRFListFilter(HRFPlaylist &list, QObject *parent)
     : QObject(parent), m_list(list), m_controller(list.fileController())
 {
-    constexpr std::chrono::milliseconds betweenKeys(40);
+    constexpr std::chrono::milliseconds betweenKeys(20);
     m_timer.setSingleShot(true);
     m_timer.setInterval(betweenKeys);
     connect(&m_timer, &QTimer::timeout, this, &HRFListFilter::apply);

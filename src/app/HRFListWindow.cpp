@@ -98,7 +98,7 @@ void HRFListWindow::makeBars()
     makeFilterField(*bar);
     statusBar()->setObjectName(u"statusBar"_s);
     statusBar()->addWidget(new HRFStatusLine(m_list, this), 1);
-    statusBar()->addPermanentWidget(new HRFImportNotice(m_list.fileManager(), this));
+    statusBar()->addPermanentWidget(new HRFImportNotice(m_list, this));
     statusBar()->addPermanentWidget(new HRFPendingWork(m_list, this));
 }
 

@@ -75,7 +75,8 @@ void HRFPendingWork::cancel()
                               "the list shows the new ones."),
         .buttons = {{.title = tr("Yes"), .role = HRFAnswerRole::Accept, .isDestructive = true},
                     {.title = tr("No"), .role = HRFAnswerRole::Cancel}},
-        .defaultButton = 1};
+        .defaultButton = 1,
+        .owner = &m_list};
     if (HRFUserInteraction::current().runAlert(question).button == 0)
         for (const auto &progress : m_list.pendingProgresses())
             progress->cancel();

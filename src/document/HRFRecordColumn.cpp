@@ -65,9 +65,13 @@ QString HRFRecordColumn::text(const HRFMetaFile &file) const
 
 const QString *HRFRecordColumn::storedText(const HRFMetaFile &file) const
 {
-    if (!m_isStored || !m_transformer.isEmpty())
+    const bool isName = m_attribute->isFilename();
+    if (!m_isStored || !(m_transformer.isEmpty() || isName))
         return nullptr;
     const HRFValues &values = recordOf(file).values();
     const int property = m_attribute->index;
-    return values.texts() & HRFPropertyBit(property) ? &values.text(property) : nullptr;
+    if (!(values.texts() & HRFPropertyBit(property)))
+        return nullptr;
+    const QString &text = values.text(property);
+    return isName && text.contains(u':') ? nullptr : &text; // where the user sees "/"
 }

@@ -1,6 +1,7 @@
 #include "document/HRFRecordFilter.h"
 
 #include "document/HRFRecordColumn.h"
+#include "store/HRFValueTransformer.h"
 
 #include <QStringList>
 
@@ -50,18 +51,20 @@ void appendFolded(QString &folded, const QString &text)
     folded.truncate(end - folded.constData());
 }
 
-/// Whether an attribute is shown as digits, but for a sign. It takes longer to write numbers out
-/// than to search all texts of a record.
+/// Whether an attribute is shown as digits with signs between them, as a duration is. It takes
+/// longer to write numbers out than to search all texts of a record.
 bool isShownAsDigits(const HRFAttributeDescription &attribute)
 {
     const bool isWhole = attribute.isNumeric() && attribute.type <= HRFAttributeType::Integer64;
-    return isWhole && !attribute.hasCustomTransformer();
+    const QString transformer = attribute.displayValueTransformerName();
+    return isWhole && (transformer.isEmpty() || transformer == HRFValueTransformer::duration);
 }
 
 bool isOfDigits(const QString &word)
 {
-    return std::ranges::all_of(
-        word, [](QChar character) { return character.isDigit() || character == u'-'; });
+    return std::ranges::all_of(word, [](QChar character) {
+        return character.isDigit() || character == u'-' || character == u':';
+    });
 }
 
 } // namespace

@@ -30,12 +30,12 @@ void HRFFileOperation::setFile(const HRFMetaFile &file)
 {
     m_objectID = file.objectID();
     // Where the file is now is looked up when this runs.
-    const HRFFileReference url =
-        HRFFileReferenceTable::lastKnownFileForURL(file.fileURL()).value_or(HRFFileReference());
+    const QString referenceURL = file.fileURL();
+    const auto known = HRFFileReferenceTable::lastKnownFileForURL(referenceURL);
     const std::lock_guard lock(m_fieldsMutex);
-    m_fileURL = url;
-    m_fileName = file.fileInfo().displayFileName();
-    m_referenceURL = file.fileURL();
+    m_fileURL = known.value_or(HRFFileReference());
+    m_fileName = known ? QString() : file.fileInfo().displayFileName();
+    m_referenceURL = referenceURL;
 }
 
 HRFFileReference HRFFileOperation::fileURL() const
@@ -53,14 +53,14 @@ void HRFFileOperation::setFileURL(const HRFFileReference &file, const QString &r
 {
     const std::lock_guard lock(m_fieldsMutex);
     m_fileURL = file;
-    m_fileName = file.displayName();
+    m_fileName.clear();
     m_referenceURL = referenceURL;
 }
 
 QString HRFFileOperation::fileName() const
 {
     const std::lock_guard lock(m_fieldsMutex);
-    return m_fileName;
+    return m_fileName.isEmpty() ? m_fileURL.displayName() : m_fileName;
 }
 
 QString HRFFileOperation::fileKey() const
@@ -117,12 +117,13 @@ HRFResult<HRFFileReference> HRFFileOperation::findFile()
     const HRFFileReference found = url.isEmpty()
         ? fileURL()
         : HRFFileReferenceTable::fileForURL(url).value_or(HRFFileReference());
-    const auto known = HRFFileReferenceTable::lastKnownFileForURL(url);
+    if (found.isNull()) {
+        const auto known = HRFFileReferenceTable::lastKnownFileForURL(url);
+        return std::unexpected(
+            HRFFileNotFoundError(fileName(), known ? known->displayPath() : QString()));
+    }
     const std::lock_guard lock(m_fieldsMutex);
     m_fileURL = found;
-    if (found.isNull())
-        return std::unexpected(
-            HRFFileNotFoundError(m_fileName, known ? known->displayPath() : QString()));
     return found;
 }
 

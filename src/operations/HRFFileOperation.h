@@ -33,7 +33,7 @@ public:
     /// The record that this operation works for.
     HRFObjectID objectID() const { return m_objectID; }
     void setObjectID(HRFObjectID objectID) { m_objectID = objectID; }
-    /// The file where it was last known to be; null when it was looked for and not found.
+    /// The file where it was last known to be; null when that never was known.
     HRFFileReference fileURL() const;
     void setFileURL(const HRFFileReference &file);
     /// @param referenceURL that of the file, where it is known already
@@ -75,7 +75,7 @@ private:
     std::atomic<bool> m_isLast = false;
     std::atomic<bool> m_succeeded = false;
     HRFFileReference m_fileURL;
-    QString m_fileName;
+    QString m_fileName; ///< empty where m_fileURL tells it
     QString m_referenceURL; ///< empty when it is not known
     std::weak_ptr<HRFProgress> m_progress;
     std::optional<HRFError> m_error;

@@ -89,11 +89,14 @@ HRFManagedObject *HRFObjectContext::newObjectForEntityName(const QString &entity
 
 void HRFObjectContext::deleteObject(HRFManagedObject &object)
 {
+    std::vector<HRFManagedObject *> parts;
     for (const HRFRelationshipDescription &relationship : object.entity().relationships)
-        if (HRFManagedObject *other =
+        if (HRFManagedObject *part =
                 relationship.cascades ? object.related(relationship.index) : nullptr)
-            deleteObject(*other);
-    remove(object);
+            parts.push_back(part);
+    remove(object); // first, so that other threads never find it without its parts
+    for (HRFManagedObject *part : parts)
+        deleteObject(*part);
 }
 
 void HRFObjectContext::deleteObjectsForEntityName(const QString &entityName)

@@ -41,7 +41,6 @@ QString fileSize(const QVariant &value)
     return QLocale().formattedDataSize(value.toLongLong(), 1, QLocale::DataSizeSIFormat);
 }
 
-/// Seconds as "3:05" or "1:02:03".
 QString duration(const QVariant &value)
 {
     constexpr qlonglong base = 60;
@@ -95,7 +94,7 @@ constexpr std::array rows{
     Row{HRFValueTransformer::metadataString, plainText},
     Row{HRFValueTransformer::localizedBool, yesOrNo},
     Row{"HRFFileSizeValue"_L1, fileSize},
-    Row{"HRFDurationValue"_L1, duration},
+    Row{HRFValueTransformer::duration, duration},
     Row{"HRFBitRateValue"_L1, bitRate},
     Row{"HRFSampleRateValue"_L1, sampleRate},
     Row{"HRFBitDepthValue"_L1, bitDepth},

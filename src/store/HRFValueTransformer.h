@@ -3,13 +3,17 @@
 #include <QString>
 #include <QVariant>
 
-/// The transformers of attributes for which the model names none.
+/// The transformers that code asks for: those of attributes for which the model names none, and one
+/// that makes no letters.
 namespace HRFValueTransformer {
 
 /// A text as it is, line breaks included: what is shown is also what is copied and exported.
 inline constexpr QLatin1StringView metadataString("MetadataStringTransformer");
 /// "Yes" or "No".
 inline constexpr QLatin1StringView localizedBool("HRFLocalizedBoolValue");
+
+/// Seconds as "3:05" or "1:02:03".
+inline constexpr QLatin1StringView duration("HRFDurationValue");
 
 } // namespace HRFValueTransformer
 

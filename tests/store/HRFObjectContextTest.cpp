@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <latch>
+#include <ranges>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -212,6 +213,32 @@ TEST_F(HRFObjectContextTest, PrivateContextsForgetWhatTheyRollBack)
     });
     EXPECT_THAT(events, IsEmpty());
     EXPECT_EQ(title(file), u"One"_s);
+}
+
+TEST_F(HRFObjectContextTest, RecordsAreNeverFoundWithoutTheirParts)
+{
+    constexpr int count = 3000;
+    for (int i = 0; i < count; ++i)
+        main->newObject<HRFMetaFile>();
+    const std::vector<HRFMetaFile *> files = main->fetch<HRFMetaFile>();
+    std::vector<HRFObjectID> objectIDs;
+    for (const HRFMetaFile *file : files)
+        objectIDs.push_back(file->objectID());
+    std::latch isLooking(1);
+    std::thread worker([&] {
+        background->performBlockAndWait([&] {
+            isLooking.count_down();
+            for (std::size_t i = objectIDs.size(); i-- > 0;)
+                if (const HRFManagedObject *file = background->object(objectIDs[i])) {
+                    ASSERT_NE(file->related(u"tags"_s), nullptr);
+                    ASSERT_NE(file->related(u"fileInfo"_s), nullptr);
+                }
+        });
+    });
+    isLooking.wait();
+    for (HRFMetaFile *file : files | std::views::reverse)
+        main->deleteObject(*file);
+    worker.join();
 }
 
 /// The worker holds the context and needs the main thread, which waits for the context.
