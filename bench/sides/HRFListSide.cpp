@@ -26,7 +26,7 @@ public:
     ~Silence() override { setCurrent(nullptr); }
 
     HRFAlertAnswer runAlert(const HRFAlert &alert) override { fail(alert.message); }
-    bool presentError(const HRFError &error, const HRFInteractionOwner & /*owner*/) override
+    bool presentError(const HRFError &error, HRFInteractionOwner /*owner*/) override
     {
         fail(error.fullText());
     }

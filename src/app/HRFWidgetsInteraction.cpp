@@ -29,7 +29,7 @@ HRFListWindow *currentWindow(const std::vector<HRFListWindow *> &windows)
 }
 
 /// The window that a question or a progress belongs to; nullptr when there is none.
-HRFListWindow *windowOf(const HRFInteractionOwner &owner)
+HRFListWindow *windowOf(HRFInteractionOwner owner)
 {
     std::vector<HRFListWindow *> windows;
     for (QWidget *widget : QApplication::topLevelWidgets())
@@ -87,7 +87,7 @@ HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
     return answer;
 }
 
-bool HRFWidgetsInteraction::presentError(const HRFError &error, const HRFInteractionOwner &owner)
+bool HRFWidgetsInteraction::presentError(const HRFError &error, HRFInteractionOwner owner)
 {
     HRFAlert alert{.message = error.description,
                    .informativeText = reasonOf(error),

@@ -168,8 +168,7 @@ HRFAlertAnswer HRFTerminalInteraction::runQuestion(const HRFAlert &alert, const 
     return {.button = buttonFor(HRFErrorAnswer::Cancel, alert.buttons)};
 }
 
-bool HRFTerminalInteraction::presentError(const HRFError &error,
-                                          const HRFInteractionOwner & /*owner*/)
+bool HRFTerminalInteraction::presentError(const HRFError &error, HRFInteractionOwner /*owner*/)
 {
     const QString file = error.path.isEmpty() ? QString() : error.path + u": "_s;
     if (!isSummaryOfNamedFiles(error))

@@ -19,7 +19,7 @@ public:
     ~HRFTerminalInteraction() override;
 
     HRFAlertAnswer runAlert(const HRFAlert &alert) override;
-    bool presentError(const HRFError &error, const HRFInteractionOwner &owner) override;
+    bool presentError(const HRFError &error, HRFInteractionOwner owner) override;
     void revealFiles(const std::vector<HRFFileReference> & /*files*/) override { }
     void notify(const QString & /*title*/, const QString & /*text*/,
                 bool /*showsRegardless*/) override

@@ -132,8 +132,7 @@ bool moveToTrash(const HRFFileReference &item)
     return hasTrash && item.isValidUtf8() && QFile::moveToTrash(item.displayPath());
 }
 
-bool userWantsToRemove(const std::vector<HRFFileReference> &folders,
-                       const HRFInteractionOwner &owner)
+bool userWantsToRemove(const std::vector<HRFFileReference> &folders, HRFInteractionOwner owner)
 {
     const QString suppression = u"lirra.suppressed.removeEmptyDirectories"_s;
     if (HRFUserDefaults::standard().boolForKey(suppression))

@@ -20,7 +20,7 @@ constexpr std::ptrdiff_t sliceSize = 250;
 /// Saves the background context, then the main context. The user is told of a failure. What comes
 /// from the background is no edit, and so not undoable; what the user edits meanwhile is.
 void saveBoth(HRFPrivateContext &background, const std::weak_ptr<HRFMainContext> &weakMain,
-              const HRFInteractionOwner &owner)
+              HRFInteractionOwner owner)
 {
     const HRFResult<void> saved = background.save();
     HRFMainThread::run(

@@ -22,7 +22,7 @@ void HRFUserInteraction::setCurrent(HRFUserInteraction *interaction)
     currentInteraction = interaction;
 }
 
-void HRFUserInteraction::presentErrorLater(const HRFError &error, const HRFInteractionOwner &owner)
+void HRFUserInteraction::presentErrorLater(const HRFError &error, HRFInteractionOwner owner)
 {
     HRFMainThread::run([error, owner] { current().presentError(error, owner); },
                        HRFMainThread::Wait::No);

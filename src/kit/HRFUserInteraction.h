@@ -3,8 +3,6 @@
 #include "kit/HRFError.h"
 #include "kit/HRFFileReference.h"
 
-#include <QObject>
-#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -12,10 +10,11 @@
 #include <vector>
 
 class HRFProgress;
+class QObject;
 
-/// The list that a question, an error or a progress belongs to: its window shows it. Null where it
-/// belongs to none.
-using HRFInteractionOwner = QPointer<QObject>;
+/// The list that a question, an error or a progress belongs to: its window shows it. nullptr where
+/// it belongs to none. Only to be compared, as the list may be gone.
+using HRFInteractionOwner = const QObject *;
 
 /// What a button of a question means, so that a program without a user can choose.
 enum class HRFAnswerRole {
@@ -101,7 +100,7 @@ public:
 
     /// Presents an error when the main thread comes round to it, for those whom somebody waits for.
     /// From any thread.
-    static void presentErrorLater(const HRFError &error, const HRFInteractionOwner &owner = {});
+    static void presentErrorLater(const HRFError &error, HRFInteractionOwner owner = {});
     /// Runs a block; a failure that it throws is presented later.
     static void presentFailures(const std::function<void()> &block);
 
@@ -109,7 +108,7 @@ public:
     virtual HRFAlertAnswer runAlert(const HRFAlert &alert) = 0;
     /// Shows an error with its recovery options, or with "OK" where it has none. Carries out the
     /// chosen option; answers whether the failed work may be tried again.
-    virtual bool presentError(const HRFError &error, const HRFInteractionOwner &owner = {}) = 0;
+    virtual bool presentError(const HRFError &error, HRFInteractionOwner owner = {}) = 0;
     /// Shows files in the file manager.
     virtual void revealFiles(const std::vector<HRFFileReference> &files) = 0;
     /// Tells about something that has ended.

@@ -209,7 +209,7 @@ int HRFFileManager::fixMissingFolder(int failure, const HRFTransfer &transfer) c
 }
 
 HRFFileExistsRecovery HRFFileManager::userRequestedRecoveryForFileExistsError(
-    const HRFFileReference &destination, bool showSuppression, const HRFInteractionOwner &owner)
+    const HRFFileReference &destination, bool showSuppression, HRFInteractionOwner owner)
 {
     auto recovery = HRFFileExistsRecovery::Stop;
     const auto decide = [&] {
@@ -221,7 +221,7 @@ HRFFileExistsRecovery HRFFileManager::userRequestedRecoveryForFileExistsError(
 }
 
 HRFFileExistsRecovery HRFFileManager::ask(const HRFFileReference &destination, bool showSuppression,
-                                          const HRFInteractionOwner &owner)
+                                          HRFInteractionOwner owner)
 {
     const std::array recoveries{HRFFileExistsRecovery::KeepBoth, HRFFileExistsRecovery::Replace,
                                 HRFFileExistsRecovery::Stop};

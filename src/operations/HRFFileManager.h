@@ -57,8 +57,7 @@ public:
     /// @param owner the list whose file it is
     HRFFileExistsRecovery
     userRequestedRecoveryForFileExistsError(const HRFFileReference &destination,
-                                            bool showSuppression,
-                                            const HRFInteractionOwner &owner = {});
+                                            bool showSuppression, HRFInteractionOwner owner = {});
     /// Does the transfer that failed with the error after all; Stop and Skip leave it at that.
     [[nodiscard]] HRFResult<HRFFileReference>
     attemptFixingFileExistsError(const HRFError &error, HRFFileExistsRecovery recovery,
@@ -71,7 +70,7 @@ private:
     HRFResult<HRFFileReference> replace(const HRFTransfer &transfer);
     bool isProtected(const HRFFileReference &item) const;
     HRFFileExistsRecovery ask(const HRFFileReference &destination, bool showSuppression,
-                              const HRFInteractionOwner &owner);
+                              HRFInteractionOwner owner);
 
     // 0 when the transfer may be tried again, else the errno to report:
     int fix(int failure, const HRFTransfer &transfer) const;

@@ -85,18 +85,6 @@ void HRFProgress::setCancellationHandler(std::function<void()> handler)
         handler();
 }
 
-HRFInteractionOwner HRFProgress::owner() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_owner;
-}
-
-void HRFProgress::setOwner(const HRFInteractionOwner &owner)
-{
-    const std::lock_guard lock(m_mutex);
-    m_owner = owner;
-}
-
 void HRFProgress::addChild(const std::shared_ptr<HRFProgress> &child)
 {
     {

@@ -46,8 +46,8 @@ public:
     void setCancellationHandler(std::function<void()> handler);
 
     /// The list whose files are worked on; its window shows this, and what goes wrong.
-    HRFInteractionOwner owner() const;
-    void setOwner(const HRFInteractionOwner &owner);
+    HRFInteractionOwner owner() const { return m_owner; }
+    void setOwner(HRFInteractionOwner owner) { m_owner = owner; }
 
     void addChild(const std::shared_ptr<HRFProgress> &child);
 
@@ -58,11 +58,11 @@ private:
     std::atomic<qlonglong> m_completed = 0;
     std::atomic<bool> m_isCancellable = true;
     std::atomic<bool> m_isCancelled = false;
+    std::atomic<HRFInteractionOwner> m_owner = nullptr;
 
     mutable std::mutex m_mutex; ///< guards the members below, and the change of m_isCancelled
     QString m_description;
     QString m_additionalDescription;
     std::function<void()> m_cancellationHandler;
     std::vector<std::shared_ptr<HRFProgress>> m_children;
-    HRFInteractionOwner m_owner;
 };

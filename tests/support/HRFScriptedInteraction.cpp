@@ -72,8 +72,7 @@ HRFAlertAnswer HRFScriptedInteraction::runAlert(const HRFAlert &alert)
     return answer;
 }
 
-bool HRFScriptedInteraction::presentError(const HRFError &error,
-                                          const HRFInteractionOwner & /*owner*/)
+bool HRFScriptedInteraction::presentError(const HRFError &error, HRFInteractionOwner /*owner*/)
 {
     expectMainThread();
     presentedErrors.push_back(error);

@@ -48,7 +48,7 @@ public:
     int visibleProgressCount = 0;
 
     HRFAlertAnswer runAlert(const HRFAlert &alert) override;
-    bool presentError(const HRFError &error, const HRFInteractionOwner &owner) override;
+    bool presentError(const HRFError &error, HRFInteractionOwner owner) override;
     void revealFiles(const std::vector<HRFFileReference> &files) override;
     void notify(const QString &title, const QString &text, bool showsRegardless) override;
     std::unique_ptr<HRFProgressDisplay>
