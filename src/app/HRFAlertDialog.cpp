@@ -79,7 +79,13 @@ QTextEdit *makeText(const QString &text, QFont::Weight weight, QWidget *parent)
     made->setLineWrapMode(QTextEdit::FixedPixelWidth);
     made->setLineWrapColumnOrWidth(width - made->verticalScrollBar()->sizeHint().width());
     made->setPlainText(text);
-    made->setFixedSize(width, std::min(highest, int(std::ceil(made->document()->size().height()))));
+    const int height = int(std::ceil(made->document()->size().height()));
+    made->setFixedSize(width, std::min(highest, height));
+    if (height > highest) { // the rest is to be reached without a mouse
+        made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        made->setFocusPolicy(Qt::StrongFocus);
+        made->setTabChangesFocus(true);
+    }
     return made;
 }
 
@@ -92,6 +98,7 @@ HRFAlertDialog::HRFAlertDialog(const HRFAlert &alert, QWidget *parent)
     setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
     setWindowTitle(alert.title.isEmpty() ? QApplication::applicationDisplayName() : alert.title);
     setAccessibleName(alert.message);
+    setAccessibleDescription(alert.informativeText);
     makeWidgets();
     qApp->installEventFilter(this); // for the Alt key, whatever has the focus
 }
@@ -108,6 +115,10 @@ std::optional<std::size_t> HRFAlertDialog::buttonForEscape(const HRFAlert &alert
 
 HRFAlertAnswer HRFAlertDialog::answerOfNobody(const HRFAlert &alert)
 {
+    const auto goOn =
+        std::ranges::find(alert.buttons, HRFAnswerRole::Continue, &HRFAlertButton::role);
+    if (goOn != alert.buttons.end())
+        return {.button = std::size_t(goOn - alert.buttons.begin())};
     return {.button = buttonForEscape(alert).value_or(alert.buttons.size() - 1)};
 }
 

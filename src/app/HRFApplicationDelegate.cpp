@@ -83,8 +83,6 @@ void HRFApplicationDelegate::quit()
 void HRFApplicationDelegate::terminate()
 {
     Q_EMIT willTerminate();
-    for (const auto &window : m_windows)
-        window->commitEditing();
     m_documents.terminate([this] {
         for (const auto &window : m_windows)
             window->hide();

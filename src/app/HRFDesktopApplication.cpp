@@ -3,6 +3,8 @@
 #include "kit/HRFMainThread.h"
 #include "kit/HRFUserInteraction.h"
 
+#include <QScopeGuard>
+
 #include <exception>
 
 bool HRFDesktopApplication::notify(QObject *receiver, QEvent *event)
@@ -25,8 +27,8 @@ void HRFDesktopApplication::tell(const std::exception &failure)
                          .description = QString::fromLocal8Bit(failure.what())};
     HRFMainThread::run(
         [this, error] {
+            const auto done = qScopeGuard([this] { m_isTelling = false; });
             HRFUserInteraction::current().presentError(error);
-            m_isTelling = false;
         },
         HRFMainThread::Wait::No);
 }

@@ -70,7 +70,7 @@ HRFResult<std::unique_ptr<HRFDataFolder>> takeFolder(const QString &path,
 
 int runWindows(const Options &options)
 {
-    const HRFWidgetsInteraction interaction;
+    HRFWidgetsInteraction interaction;
     const QString path =
         options.dataFolder.empty() ? HRFDataFolder::userFolder() : decoded(options.dataFolder);
     const auto files = absolutePaths(options.paths);
@@ -86,6 +86,7 @@ int runWindows(const Options &options)
     QSocketNotifier interruption(HRFInterruption::descriptor(), QSocketNotifier::Read);
     QObject::connect(&interruption, &QSocketNotifier::activated, &application, [&] {
         interruption.setEnabled(false);
+        interaction.cancelQuestions();
         application.terminate();
     });
     HRFInstance instance(path);

@@ -128,7 +128,8 @@ HRFInputError *setUp(QLineEdit &field, const HRFListColumn &column)
         return nullptr;
     auto *error = new HRFInputError(field);
     QObject::connect(&field, &QLineEdit::textChanged, error, [&field, error, expectation] {
-        error->setReason(field.hasAcceptableInput() ? QString() : expectation);
+        const bool isRight = field.hasAcceptableInput() || !field.isModified();
+        error->setReason(isRight ? QString() : expectation);
     });
     return error;
 }

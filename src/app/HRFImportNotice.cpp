@@ -3,7 +3,6 @@
 #include "app/HRFIcons.h"
 #include "document/HRFPlaylist.h"
 #include "kit/HRFUserInteraction.h"
-#include "tags/HRFTagEngine.h"
 
 #include <QLocale>
 
@@ -17,8 +16,7 @@ namespace {
 /// The user is told of these by the import itself.
 bool isInvalidFile(const HRFFileProblem &problem)
 {
-    return problem.error.domain == QLatin1StringView(HRFTagEngineErrorDomain)
-        && problem.error.code == HRFTagEngineErrorCode::unreadable;
+    return HRFIsUnreadableFile(problem.error);
 }
 
 } // namespace

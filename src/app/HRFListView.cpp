@@ -68,6 +68,8 @@ HRFListView::HRFListView(HRFListModel &model, HRFThumbnails &thumbnails, HRFList
                 if (key == heightKey)
                     rowHeightDidChange();
             });
+    // A reset takes the editor away with what stands in it.
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &HRFListView::commitEditor);
     connect(&thumbnails, &HRFThumbnails::thumbnailsDidChange, this, &HRFListView::updateThumbnails);
     restoreRowHeight();
 }

@@ -39,12 +39,10 @@ public:
     QLineEdit &filterField() const { return *m_filterField; }
     HRFSidebar &sidebar() const { return *m_sidebar; }
 
-    /// Takes what is being typed in a cell or in the sidebar, before anything else is done.
-    void commitEditing();
-
     void showWindows() override;
     bool hasAttachedSheet() const override;
     void runAddPanel(const QStringList &fileTypes) override;
+    void commitEditing() override;
     void focusFilterFieldIfNeeded() override;
     void clearFilterField() override;
     void focusInitialControl() override;

@@ -74,8 +74,18 @@ HRFWidgetsInteraction::~HRFWidgetsInteraction()
     setCurrent(nullptr);
 }
 
+void HRFWidgetsInteraction::cancelQuestions()
+{
+    m_isAlone = true;
+    for (QWidget *widget : QApplication::allWidgets())
+        if (auto *alert = qobject_cast<HRFAlertDialog *>(widget); alert && alert->isVisible())
+            alert->done(QDialog::Rejected);
+}
+
 HRFAlertAnswer HRFWidgetsInteraction::runAlert(const HRFAlert &alert)
 {
+    if (m_isAlone)
+        return HRFAlertDialog::answerOfNobody(alert);
     HRFListWindow *window = windowOf(alert.owner);
     const QPointer dialog(
         new HRFAlertDialog(alert, window ? HRFSheets::placeForQuestion(*window) : nullptr));

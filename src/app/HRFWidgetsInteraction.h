@@ -13,6 +13,10 @@ public:
     HRFWidgetsInteraction();
     ~HRFWidgetsInteraction() override;
 
+    /// Nobody is there any more who could answer: questions, also those on the screen, are taken
+    /// for cancelled, and other files go on.
+    void cancelQuestions();
+
     HRFAlertAnswer runAlert(const HRFAlert &alert) override;
     bool presentError(const HRFError &error, HRFInteractionOwner owner) override;
     void revealFiles(const std::vector<HRFFileReference> &files) override;
@@ -20,4 +24,7 @@ public:
     std::unique_ptr<HRFProgressDisplay>
     showProgress(const std::shared_ptr<HRFProgress> &progress,
                  const HRFProgressAppearance &appearance) override;
+
+private:
+    bool m_isAlone = false; ///< cancelQuestions was called
 };

@@ -17,7 +17,7 @@ bool HRFDocumentController::terminate(std::function<void()> terminate)
 bool HRFDocumentController::terminateWhenIdle()
 {
     for (const auto &document : m_documents)
-        document->managedObjectContext().processPendingChanges();
+        document->commitEditing();
     if (HRFMetaFileManager::fileOperationQueue().operationCount() == 0) {
         finishTermination();
         return true;

@@ -12,8 +12,7 @@
 #include "tags/HRFTagEngine.h"
 
 #include <algorithm>
-#include <future>
-#include <utility>
+#include <semaphore>
 
 using namespace Qt::StringLiterals;
 using Wait = HRFMainThread::Wait;
@@ -28,21 +27,11 @@ QSet<QString> urlsOf(const std::vector<HRFFoundFile> &files)
     return urls;
 }
 
-/// An answer that one thread waits for; "no" when nobody gives it.
-class FirstAnswer
+/// Whether a search has found anything, as the one who waits for it learns.
+struct FirstAnswer
 {
-public:
-    ~FirstAnswer() { give(false); }
-    std::future<bool> future() { return m_answer.get_future(); }
-    void give(bool answer)
-    {
-        if (!std::exchange(m_isGiven, true))
-            m_answer.set_value(answer);
-    }
-
-private:
-    std::promise<bool> m_answer;
-    bool m_isGiven = false;
+    std::atomic<bool> hasFiles = false;
+    std::binary_semaphore isGiven{0};
 };
 
 } // namespace
@@ -53,19 +42,21 @@ bool HRFMetaFileManager::parseFiles(const std::vector<HRFFileReference> &paths)
     constexpr std::chrono::milliseconds patience(100);
     if (m_hasStopped)
         return false;
-    const auto outcome = std::make_shared<FirstAnswer>();
-    std::future<bool> hasFiles = outcome->future();
-    m_imports.run([this, paths, outcome] {
-        runImport([this, &paths, &outcome](const HRFProgress &progress) {
+    const auto answer = std::make_shared<FirstAnswer>();
+    m_imports.run([this, paths, answer] {
+        runImport([this, &paths, &answer](const HRFProgress &progress) {
             HRFFoundFiles found = HRFFileWalker::find(
                 paths, [&] { return m_hasStopped || progress.isCancelled(); },
-                [&outcome] { outcome->give(true); });
-            outcome->give(!found.files.empty());
+                [&answer] {
+                    answer->hasFiles = true;
+                    answer->isGiven.release();
+                });
+            if (found.files.empty())
+                answer->isGiven.release();
             return found;
         });
     });
-    return m_importProgress || hasFiles.wait_for(patience) == std::future_status::timeout
-        || hasFiles.get();
+    return m_importProgress || !answer->isGiven.try_acquire_for(patience) || answer->hasFiles;
 }
 
 bool HRFMetaFileManager::importFoundFiles(HRFFoundFiles found)
@@ -298,7 +289,7 @@ QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations, boo
         if (!error)
             continue;
         problems.push_back({operation->fileURL(), *error});
-        if (error->code == HRFTagEngineErrorCode::unreadable)
+        if (HRFIsUnreadableFile(*error))
             invalid.push_back(operation->fileURL());
     }
     HRFMainThread::run(
@@ -311,6 +302,12 @@ QSet<QString> HRFMetaFileManager::sortOutcomes(const Operations &operations, boo
         },
         Wait::No);
     return succeeded;
+}
+
+bool HRFIsUnreadableFile(const HRFError &error)
+{
+    return error.domain == QLatin1StringView(HRFTagEngineErrorDomain)
+        && error.code == HRFTagEngineErrorCode::unreadable;
 }
 
 void HRFMetaFileManager::showInvalidFilesError(const std::vector<HRFFileReference> &files)

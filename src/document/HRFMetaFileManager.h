@@ -20,6 +20,9 @@
 class HRFPlaylist;
 class HRFProgressWindowController;
 
+/// Whether an import shows the file in an alert, as no audio file that can be read.
+bool HRFIsUnreadableFile(const HRFError &error);
+
 /// Turns paths into the file records of a list, and edits of the records into work on the files.
 ///
 /// For the main thread, but for the parts of an import that run in the background.

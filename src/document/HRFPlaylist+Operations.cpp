@@ -164,13 +164,13 @@ void HRFPlaylist::runSlice(const Operations &operations, const std::shared_ptr<B
     HRFOperationQueue &queue = HRFMetaFileManager::fileOperationQueue();
     queue.addOperations({operations.begin(), operations.end()}, false);
     const quint64 number = ++m_lastSlice;
-    m_slices.emplace(number, Slice{operations, batch});
     const auto work = isLast ? batch->afterwork.inQueue : std::function<void()>();
     // The progresses are needed until then, even when the list is closed meanwhile: to cancel the
     // rest, and to show the end of the program how much there is to do.
     const auto progresses = progressesOf(operations);
     for (const auto &progress : progresses)
         progress->setOwner(this);
+    m_slices.emplace(number, Slice{operations, batch, progresses});
     queue.addBarrierBlock([reference = m_weakSelf.reference(), number, work, progresses] {
         static_cast<void>(progresses);
         if (work)
@@ -188,7 +188,7 @@ std::set<std::shared_ptr<HRFProgress>> HRFPlaylist::pendingProgresses() const
 {
     std::set<std::shared_ptr<HRFProgress>> progresses;
     for (const auto &[number, slice] : m_slices)
-        progresses.merge(progressesOf(slice.operations));
+        progresses.insert(slice.progresses.begin(), slice.progresses.end());
     return progresses;
 }
 

@@ -81,6 +81,13 @@ void HRFPlaylist::setUndoActionName(const QString &name)
     managedObjectContext().setUndoActionName(name);
 }
 
+void HRFPlaylist::commitEditing()
+{
+    if (m_window)
+        m_window->commitEditing();
+    managedObjectContext().processPendingChanges();
+}
+
 void HRFPlaylist::close()
 {
     if (m_shouldClose || m_documents.documents().size() > 1)

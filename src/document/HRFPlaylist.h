@@ -56,6 +56,9 @@ public:
     /// The window must outlive the list; nullptr for none.
     void setWindow(HRFPlaylistWindow *window) { m_window = window; }
 
+    /// Takes what is being typed in the window for entered, and edits of this event for done.
+    void commitEditing();
+
     bool shouldClose() const { return m_shouldClose; }
     void setShouldClose(bool shouldClose) { m_shouldClose = shouldClose; }
     /// Closes the list, which is destroyed then, unless it is the last one and the program goes on.
@@ -129,6 +132,7 @@ private:
     {
         Operations operations;
         std::shared_ptr<Batch> batch;
+        std::set<std::shared_ptr<HRFProgress>> progresses;
     };
     void runSlice(const Operations &operations, const std::shared_ptr<Batch> &batch, bool isLast);
     void sliceDidEnd(const Slice &slice);

@@ -18,6 +18,8 @@ public:
     virtual void runMovePanel() { }
     /// Shows the window in which patterns are edited.
     virtual void showConvertWindow() { }
+    /// Takes what is being typed for entered.
+    virtual void commitEditing() { }
     virtual void focusFilterFieldIfNeeded() = 0;
     virtual void clearFilterField() = 0;
     virtual void focusInitialControl() = 0;

@@ -33,14 +33,13 @@ void handleSignals(Again again)
     wakeUpDescriptor = descriptor();
     // Without SA_RESTART: a question that waits for an answer ends, too.
     struct sigaction action = {};
-    action.sa_handler = [](int) {
+    action.sa_handler = [](int number) {
         requested = true;
         const quint64 one = 1;
         const int reason = errno;
         static_cast<void>(::write(wakeUpDescriptor, &one, sizeof one) == sizeof one);
-        if (isOnlyOnce)
-            for (const int signal : signals)
-                ::signal(signal, SIG_DFL);
+        if (isOnlyOnce) // the end of a session sends several different ones at once
+            ::signal(number, SIG_DFL);
         errno = reason;
     };
     for (const int signal : signals)

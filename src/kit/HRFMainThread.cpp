@@ -35,6 +35,14 @@ Inbox &inbox()
     return *theInbox;
 }
 
+/// Can be read when blocks wait. Qt's own events would do, but what they guard with Qt's locks is
+/// hidden from the thread sanitizer.
+int signalDescriptor()
+{
+    static const int descriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    return descriptor;
+}
+
 void runBlocks()
 {
     Inbox &box = inbox();
@@ -42,18 +50,12 @@ void runBlocks()
     while (!box.blocks.empty()) {
         const std::function<void()> block = std::move(box.blocks.front());
         box.blocks.pop_front();
+        if (!box.blocks.empty()) // for an event loop that the block may run, to ask a question
+            ::eventfd_write(signalDescriptor(), 1);
         lock.unlock();
         block();
         lock.lock();
     }
-}
-
-/// Can be read when blocks wait. Qt's own events would do, but what they guard with Qt's locks is
-/// hidden from the thread sanitizer.
-int signalDescriptor()
-{
-    static const int descriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    return descriptor;
 }
 
 /// Runs blocks when the event loop comes round.
