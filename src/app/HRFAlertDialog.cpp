@@ -54,8 +54,14 @@ void paintIcon(QPainter &painter, const QRect &place, const HRFAlert &alert)
     if (file.isNull())
         return sign.paint(&painter, place);
     file.paint(&painter, place);
-    if (alert.isCritical)
-        sign.paint(&painter, QRect(place.center(), place.bottomRight()));
+    if (!alert.isCritical)
+        return;
+    constexpr int gap = 2; // keeps the two apart
+    const QRect corner(place.center(), place.bottomRight());
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(corner.adjusted(-gap, -gap, 0, 0), Qt::black);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    sign.paint(&painter, corner);
 }
 
 /// Text that can be copied. A name without spaces that does not fit into a line is broken anywhere.

@@ -3,9 +3,36 @@
 #include "kit/HRFMainThread.h"
 #include "kit/HRFUserInteraction.h"
 
+#include <QEvent>
+#include <QPalette>
 #include <QScopeGuard>
 
 #include <exception>
+
+HRFDesktopApplication::HRFDesktopApplication(int &argc, char **argv) : QApplication(argc, argv)
+{
+    chooseFaintColour();
+}
+
+bool HRFDesktopApplication::event(QEvent *event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        chooseFaintColour();
+    return QApplication::event(event);
+}
+
+/// Not every theme says how faint text looks: labels of fields, and what stands in empty ones.
+void HRFDesktopApplication::chooseFaintColour()
+{
+    constexpr float opacity = 0.6F;
+    QColor faint = palette().color(QPalette::WindowText);
+    faint.setAlphaF(opacity);
+    if (palette().color(QPalette::PlaceholderText) == faint)
+        return;
+    QPalette own;
+    own.setColor(QPalette::PlaceholderText, faint);
+    setPalette(own);
+}
 
 bool HRFDesktopApplication::notify(QObject *receiver, QEvent *event)
 {

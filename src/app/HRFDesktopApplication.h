@@ -10,11 +10,15 @@
 class HRFDesktopApplication : public QApplication
 {
 public:
-    using QApplication::QApplication;
+    HRFDesktopApplication(int &argc, char **argv);
 
     bool notify(QObject *receiver, QEvent *event) override;
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    static void chooseFaintColour();
     void tell(const std::exception &failure);
 
     std::atomic<bool> m_isTelling = false;

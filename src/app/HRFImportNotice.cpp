@@ -65,6 +65,7 @@ void HRFImportNotice::explain()
                          .informativeText = lines.join(u'\n'),
                          .buttons = {{.title = tr("OK"), .role = HRFAnswerRole::Continue},
                                      {.title = tr("Show Files")}},
+                         .isCritical = true,
                          .owner = &m_list};
     if (HRFUserInteraction::current().runAlert(alert).button == 1)
         HRFUserInteraction::current().revealFiles(files);

@@ -73,7 +73,6 @@ HRFSidebar::HRFSidebar(HRFPlaylist &list, QWidget *parent)
     layout->addWidget(m_summary);
     layout->addWidget(m_artwork);
     setWidget(m_content);
-    chooseFaintColour();
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(0);
     connect(&m_refresh, &QTimer::timeout, this, &HRFSidebar::refreshSome);
@@ -90,26 +89,6 @@ HRFSidebar::HRFSidebar(HRFPlaylist &list, QWidget *parent)
 HRFSidebar::~HRFSidebar()
 {
     removeGroups();
-}
-
-void HRFSidebar::changeEvent(QEvent *event)
-{
-    QScrollArea::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        chooseFaintColour();
-}
-
-/// Not every theme says how faint text looks: labels of fields, and what stands in empty ones.
-void HRFSidebar::chooseFaintColour()
-{
-    constexpr float opacity = 0.6F;
-    QColor faint = palette().color(QPalette::WindowText);
-    faint.setAlphaF(opacity);
-    if (palette().color(QPalette::PlaceholderText) == faint)
-        return;
-    QPalette own;
-    own.setColor(QPalette::PlaceholderText, faint);
-    setPalette(own);
 }
 
 /// A field that had the focus when it goes would take its text while it is no field any more.

@@ -36,11 +36,9 @@ public:
     bool event(QEvent *event) override;
 
 protected:
-    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
-    void chooseFaintColour();
     void makeGroups();
     void removeGroups();
     void chainFocus();
