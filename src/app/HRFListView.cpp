@@ -200,9 +200,12 @@ void HRFListView::updateThumbnails()
                        viewport()->height());
 }
 
-/// Tab leads to the next cell that can be edited.
+/// Tab leads to the next cell that can be edited. What is no value stays, also when the user goes
+/// to another row, until it is put right or taken back.
 void HRFListView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    if (hint != QAbstractItemDelegate::RevertModelCache && !HRFCheckCellEditor(*editor))
+        return;
     const bool isNext = hint == QAbstractItemDelegate::EditNextItem;
     const bool isPrevious = hint == QAbstractItemDelegate::EditPreviousItem;
     QTableView::closeEditor(editor, isNext || isPrevious ? QAbstractItemDelegate::NoHint : hint);
