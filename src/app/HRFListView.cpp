@@ -143,11 +143,13 @@ void HRFListView::editCurrent()
 
 void HRFListView::commitEditor()
 {
-    QWidget *editor = indexWidget(currentIndex());
-    if (!editor || !HRFCheckCellEditor(*editor))
-        return;
-    commitData(editor);
-    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    // That of the current cell, and those that keep what was no value.
+    for (auto *editor : viewport()->findChildren<QWidget *>(u"cellEditor"_s)) {
+        if (editor->isHidden() || !HRFCheckCellEditor(*editor))
+            continue;
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
 }
 
 void HRFListView::keyPressEvent(QKeyEvent *event)
